@@ -1,0 +1,106 @@
+#include "reward.h"
+
+#include "runtime/formtimer.h"
+#include "runtime/forms.h"
+#include "runtime/picturebox.h"
+#include "runtime/random.h"
+#include "runtime/twips.h"
+#include "shell/module1.h"
+
+#include <QGuiApplication>
+#include <QLabel>
+#include <QScreen>
+
+namespace {
+// Where the panel stands inside a centred activity screen, in twips.
+constexpr int kActivityWidth = 9600;
+constexpr int kActivityHeight = 7200;
+constexpr int kOffsetTop = 615 + 435;
+constexpr int kOffsetLeft = 3600 + 60;
+constexpr int kMiddleFrame = 50;
+
+QLabel* messageLabel(QWidget* parent, const char* name, const char* text, int top)
+{
+    auto* label = new QLabel(QString::fromLatin1(text), parent);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setFont(Twips::font(QStringLiteral("Times New Roman"), 16, true));
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignCenter);
+    label->setStyleSheet(QStringLiteral("color: white;"));
+    Twips::place(label, 240, top, Reward::kWidthTwips - 480, 1500);
+    return label;
+}
+} // namespace
+
+Reward::Reward()
+    : Form(QStringLiteral("Reward"))
+    , Label1(messageLabel(this, "Label1", "You have been unsuccessful in the Challenge.", 300))
+    , Label2(messageLabel(this, "Label2", "The Challenge will begin again.", 2100))
+    , Image2(new PictureBox(this, QStringLiteral("Image2")))
+    , Timer1(addTimer(QStringLiteral("Timer1"), kStarFrameMs))
+    , Timer2(addTimer(QStringLiteral("Timer2"), kRetryMessageMs))
+    , Timer3(addTimer(QStringLiteral("Timer3"), kRetryTimer3Ms))
+{
+    setWindowFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setDesignSize(kWidthTwips + kBorderWidthTwips, kHeightTwips + kBorderHeightTwips);
+    Twips::place(Image2, 0, 0, kWidthTwips, kHeightTwips);
+    Image2->lower();
+    Image2->hide();
+    connect(Timer1, &QTimer::timeout, this, &Reward::Timer1_Timer);
+    connect(Timer2, &QTimer::timeout, this, &Reward::Timer2_Timer);
+    connect(Timer3, &QTimer::timeout, this, &Reward::Timer3_Timer);
+}
+
+QString Reward::starFile(int series, int k)
+{
+    return QStringLiteral("reward\\stars%1%2.jpg").arg(series).arg(k, 2, 10, QLatin1Char('0'));
+}
+
+void Reward::Form_Load()
+{
+    using namespace Module1;
+    starset = static_cast<int>(Random::Rnd() * kStarSeries);
+    starstep = static_cast<int>(Random::Rnd() * 2) * 2 - 1;
+    starframe = kMiddleFrame * (starstep + 1) + starstep;
+
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QRect display = screen ? screen->geometry() : QRect(0, 0, 1024, 768);
+    const int top = (Twips::fromPixels(display.height()) - kActivityHeight) / 2 + kOffsetTop;
+    const int left = (Twips::fromPixels(display.width()) - kActivityWidth) / 2 + kOffsetLeft;
+    moveTo(left + Twips::fromPixels(display.x()), top + Twips::fromPixels(display.y()));
+    setBackColour(kActivityBack);
+
+    const bool message = retry == 1;
+    Timer1->setEnabled(!message);
+    Timer2->setEnabled(message);
+    Timer3->setEnabled(message);
+    Label1->setVisible(message);
+    Label2->setVisible(message);
+    retry = 0;
+}
+
+void Reward::Timer1_Timer()
+{
+    using namespace Module1;
+    starframe -= starstep;
+    if (starframe == kMiddleFrame) {
+        Timer1->setEnabled(false);
+        Forms::unload(this);
+        return;
+    }
+    Image2->hide();
+    Image2->load(starFile(starset, starframe % kFramesPerSeries));
+    Image2->show();
+}
+
+void Reward::Timer2_Timer()
+{
+    Forms::unload(this);
+    Timer2->setEnabled(false);
+}
+
+void Reward::Timer3_Timer()
+{
+    Timer3->setEnabled(false);
+}

@@ -1,0 +1,78 @@
+#include "pictures.h"
+
+#include "msgbox.h"
+
+#include <QCache>
+#include <QDir>
+#include <QImageReader>
+
+namespace Pictures {
+namespace {
+QString g_folder = QStringLiteral("assets");
+int g_decodes = 0;
+
+// Kilobytes of decoded pictures kept; the title animation (50 frames) and a
+// run's reward set fit with room to spare.
+constexpr int kCacheKilobytes = 32 * 1024;
+
+QCache<QString, QPixmap>& cache()
+{
+    static QCache<QString, QPixmap> c(kCacheKilobytes);
+    return c;
+}
+
+QPixmap decode(const QString& assetPath)
+{
+    QImageReader reader(resolve(assetPath));
+    reader.setDecideFormatFromContent(true);
+    const QImage image = reader.read();
+    if (image.isNull())
+        MsgBox::fatal(missingMessage(assetPath));
+    ++g_decodes;
+    return QPixmap::fromImage(image);
+}
+} // namespace
+
+void setAssetFolder(const QString& folder)
+{
+    if (folder != g_folder)
+        clearCache();
+    g_folder = folder;
+}
+
+QString assetFolder() { return g_folder; }
+
+QString resolve(const QString& assetPath)
+{
+    QString relative = assetPath;
+    relative.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    return QDir(g_folder).filePath(relative);
+}
+
+QPixmap get(const QString& assetPath)
+{
+    if (const QPixmap* cached = cache().object(assetPath))
+        return *cached;
+    const QPixmap pixmap = decode(assetPath);
+    const qint64 bytes = qint64(pixmap.width()) * pixmap.height() * pixmap.depth() / 8;
+    cache().insert(assetPath, new QPixmap(pixmap), int(bytes / 1024) + 1);
+    return pixmap;
+}
+
+QIcon icon(const QString& assetPath)
+{
+    return QIcon(get(assetPath));
+}
+
+int decodeCount() { return g_decodes; }
+
+void clearCache() { cache().clear(); }
+
+QString missingMessage(const QString& assetPath)
+{
+    return QStringLiteral("Partitude cannot go on: the picture file \"%1\" is missing or cannot be read.\n\n"
+                          "Partitude looks for its pictures in the folder:\n%2")
+        .arg(assetPath, QDir::toNativeSeparators(QDir(g_folder).absolutePath()));
+}
+
+} // namespace Pictures

@@ -1,0 +1,56 @@
+#include "twips.h"
+
+#include <QFont>
+#include <QRect>
+#include <QWidget>
+#include <cmath>
+
+namespace Twips {
+namespace {
+double g_scale = 1.0;
+constexpr int kTwipsPerPoint = 20;
+}
+
+double scale() { return g_scale; }
+
+void setScale(double factor)
+{
+    if (factor > 0.0)
+        g_scale = factor;
+}
+
+int toPixels(int twips)
+{
+    return static_cast<int>(std::lround(twips * g_scale / kPerPixel));
+}
+
+int fromPixels(int pixels)
+{
+    return static_cast<int>(std::lround(pixels * kPerPixel / g_scale));
+}
+
+QRect rect(int left, int top, int width, int height)
+{
+    return QRect(toPixels(left), toPixels(top), toPixels(width), toPixels(height));
+}
+
+void place(QWidget* control, int left, int top, int width, int height)
+{
+    control->setGeometry(rect(left, top, width, height));
+}
+
+void move(QWidget* control, int left, int top)
+{
+    control->move(toPixels(left), toPixels(top));
+}
+
+QFont font(const QString& family, double points, bool bold)
+{
+    QFont f(family);
+    const int px = static_cast<int>(std::lround(points * kTwipsPerPoint * g_scale / kPerPixel));
+    f.setPixelSize(px > 0 ? px : 1);
+    f.setBold(bold);
+    return f;
+}
+
+} // namespace Twips

@@ -1,0 +1,170 @@
+#include "module1.h"
+
+#include "activityform.h"
+#include "rewards/grey.h"
+#include "runtime/formtimer.h"
+#include "runtime/forms.h"
+#include "runtime/picturebox.h"
+#include "runtime/random.h"
+#include "runtime/twips.h"
+
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace Module1 {
+namespace {
+
+// The activity screens' layout, in twips.
+constexpr int kButtonTop = 280;
+constexpr int kPrintLeft = 120;
+constexpr int kStartLeft = 2067;
+constexpr int kCheckLeft = 4014;
+constexpr int kHintLeft = 5961;
+constexpr int kExitLeft = 7910;
+constexpr int kPanelLeft = 1300;
+constexpr int kActivityWidth = 9600;
+constexpr int kActivityHeight = 7200;
+constexpr int kActivityScaleWidth = 9480;
+constexpr int kActivityScaleHeight = 6510;
+constexpr int kDefaultQuestions = 20;
+
+constexpr int kPraiseCount = 12;
+constexpr int kDigitsUsually = 3;
+
+QString twoDigits(int n)
+{
+    return QString::number(n).rightJustified(2, QLatin1Char('0'));
+}
+
+} // namespace
+
+void setupform(ActivityForm& form)
+{
+    form.setBackColour(kActivityBack);
+    Twips::move(form.cmdprint, kPrintLeft, kButtonTop);
+    Twips::move(form.cmdstart, kStartLeft, kButtonTop);
+    Twips::move(form.cmdcheck, kCheckLeft, kButtonTop);
+    Twips::move(form.cmdhint, kHintLeft, kButtonTop);
+    Twips::move(form.cmdexit, kExitLeft, kButtonTop);
+    form.Picture1->move(Twips::toPixels(kPanelLeft), form.Picture1->y());
+
+    form.cmdcheck->setToolTip(QStringLiteral("Check Your Answer"));
+    form.cmdstart->setToolTip(QStringLiteral("Press To Start"));
+    form.cmdprint->setToolTip(QStringLiteral("Print A Worksheet"));
+    form.cmdexit->setToolTip(QStringLiteral("Goodbye"));
+    form.cmdhint->setToolTip(QStringLiteral("Get Some Help"));
+    form.cmdprint->setText(QStringLiteral("Print A Worksheet"));
+
+    form.setDesignSize(kActivityWidth, kActivityHeight);
+    form.setScaleSize(kActivityScaleWidth, kActivityScaleHeight);
+    centreform(form);
+    questions = kDefaultQuestions;
+}
+
+void centreform(Form& form)
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QRect display = screen ? screen->geometry() : QRect(0, 0, 1024, 768);
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const double displayWidth = Twips::fromPixels(display.width());
+    const double displayHeight = Twips::fromPixels(display.height());
+    const double width = form.designWidth() > 0 ? form.designWidth() : Twips::fromPixels(form.frameGeometry().width());
+    const double height = form.designHeight() > 0 ? form.designHeight() : Twips::fromPixels(form.frameGeometry().height());
+    const int top = static_cast<int>(std::lround(displayHeight / 2 - height / 2));
+    const int left = static_cast<int>(std::lround(displayWidth / 2 - width / 2));
+    form.moveTo(left + Twips::fromPixels(display.x()), top + Twips::fromPixels(display.y()));
+    QGuiApplication::restoreOverrideCursor();
+}
+
+void praise()
+{
+    Random::Randomize();
+    const int n = static_cast<int>(Random::Rnd() * kPraiseCount + 1);
+    praisetext = QString::fromLatin1(kPraise[n - 1]);
+}
+
+void pickpicture(ActivityForm& form)
+{
+    form.Image2->hide();
+    counter = 0;
+    if (challenge < 2 || picset.isEmpty()) {
+        Random::Randomize();
+        int n = static_cast<int>(Random::Rnd() * kRewardSetCount);
+        // This screen never gets the sphere set, and the star set twice as often.
+        if (form.objectName() == QLatin1String("y3fract3") && n == 3)
+            n = 4;
+        picset = QString::fromLatin1(kRewardSets[n].name);
+        // The tall pictures stand higher on the screen.
+        form.Image2->move(form.Image2->x(), Twips::toPixels(kRewardSets[n].top));
+    }
+    form.Image2->load(rewardFrameFile(picset, 0));
+}
+
+void nextpicture(ActivityForm& form)
+{
+    form.cmdhint->setEnabled(false);
+    if (counter < questions) {
+        form.setEnabled(false);
+        Forms::load<Grey>()->Timer1->setEnabled(true);
+    }
+    const int frame = questions == 10 ? counter * 2 : counter;
+    form.Image2->load(rewardFrameFile(picset, std::min(frame, kLastRewardFrame)));
+    form.Image2->show();
+}
+
+void showwelldone(const QString&)
+{
+    Forms::unload(QStringLiteral("Welldone"));
+    Forms::show(QStringLiteral("Welldone"));
+}
+
+void showreward()
+{
+    retry = 1;
+    Forms::unload(QStringLiteral("Reward"));
+    Forms::show(QStringLiteral("Reward"));
+}
+
+int hcf(int a, int b)
+{
+    for (int i = std::abs(b); i >= 1; --i)
+        if (a % i == 0 && b % i == 0)
+            return i;
+    return 0;
+}
+
+QString randomdecimal(int whole, int places)
+{
+    Random::Randomize();
+    const int digits = (places == 1 || places == 2) ? places : kDigitsUsually;
+    QString text = QString::number(whole) + QLatin1Char('.');
+    for (int i = 0; i < digits; ++i)
+        text += QString::number(static_cast<int>(Random::Rnd() * 9 + 1));
+    return text;
+}
+
+QString rewardFrameFile(const QString& set, int frame)
+{
+    return QStringLiteral("jpg2\\") + set + twoDigits(frame) + QStringLiteral(".jpg");
+}
+
+void reset()
+{
+    version.clear();
+    soundsetting.clear();
+    soundoption = 0;
+    yearlabel.clear();
+    streak = questions = challenge = counter = retry = visits = 0;
+    picset.clear();
+    praisetext.clear();
+    activitytitle.clear();
+    logoframe = 0;
+    setname.clear();
+    starset = starstep = starframe = 0;
+}
+
+} // namespace Module1
