@@ -74,7 +74,6 @@ void setControlBackColour(QWidget* control, const QColor& colour)
 {
     QPalette palette = control->palette();
     palette.setColor(QPalette::Window, colour);
-    palette.setColor(QPalette::Button, colour);
     control->setPalette(palette);
     control->setAutoFillBackground(true);
 }

@@ -56,9 +56,9 @@ Titlefrm::Titlefrm()
     , Picture1(new PictureBox(this, QStringLiteral("Picture1")))
     , Command2(button(this, "Command2", "Exit"))
     , Command1(button(this, "Command1", "OK"))
-    , Label3(panelLabel(Frame1, "Label3", QStringLiteral("Pictures and program by the Partitude team"),
+    , Label3(panelLabel(Frame1, "Label3", QStringLiteral("Made by the Partitude team"),
                         Twips::font(QStringLiteral("Times New Roman"), 12, false)))
-    , Label2(panelLabel(Frame1, "Label2", QStringLiteral("Partitude Learning \u2022 fractions for Years 2 to 6"),
+    , Label2(panelLabel(Frame1, "Label2", QStringLiteral("Partitude Learning"),
                         Twips::font(QStringLiteral("Times New Roman"), 11, false)))
     , Label4(panelLabel(Frame1, "Label4", QStringLiteral("Partitude"),
                         Twips::font(QStringLiteral("Times New Roman"), 40, true)))

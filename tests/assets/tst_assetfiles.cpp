@@ -1,0 +1,464 @@
+// Checks the files drawassets writes into the build tree: that each one is
+// there and readable at the size the program expects, that the picture
+// sets really build up step by step, that the loops close without a jump,
+// that the sounds are valid and audible, and that the GIF writer keeps the
+// colours it is given.
+#include "gifwriter.h"
+
+#include <QFile>
+#include <QImage>
+#include <QImageReader>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <QtTest>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QString assetPath(const QString &relative)
+{
+    return QStringLiteral(PARTITUDE_TEST_ASSETS) + QLatin1Char('/') + relative;
+}
+
+QImage loadAsset(const QString &relative)
+{
+    return QImage(assetPath(relative)).convertToFormat(QImage::Format_ARGB32);
+}
+
+// Pixels whose colour changed clearly (more than JPEG noise) between a and b.
+int changedPixels(const QImage &a, const QImage &b, int threshold = 48)
+{
+    int changed = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        const QRgb *ra = reinterpret_cast<const QRgb *>(a.constScanLine(y));
+        const QRgb *rb = reinterpret_cast<const QRgb *>(b.constScanLine(y));
+        for (int x = 0; x < a.width(); ++x) {
+            const int d = std::max({std::abs(qRed(ra[x]) - qRed(rb[x])),
+                                    std::abs(qGreen(ra[x]) - qGreen(rb[x])),
+                                    std::abs(qBlue(ra[x]) - qBlue(rb[x]))});
+            if (d > threshold)
+                ++changed;
+        }
+    }
+    return changed;
+}
+
+// Average absolute difference per channel, 0..255.
+double meanDifference(const QImage &a, const QImage &b)
+{
+    double sum = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        const QRgb *ra = reinterpret_cast<const QRgb *>(a.constScanLine(y));
+        const QRgb *rb = reinterpret_cast<const QRgb *>(b.constScanLine(y));
+        for (int x = 0; x < a.width(); ++x)
+            sum += std::abs(qRed(ra[x]) - qRed(rb[x])) + std::abs(qGreen(ra[x]) - qGreen(rb[x]))
+                   + std::abs(qBlue(ra[x]) - qBlue(rb[x]));
+    }
+    return sum / (3.0 * a.width() * a.height());
+}
+
+bool near(QRgb c, const QColor &expected, int tolerance)
+{
+    return std::abs(qRed(c) - expected.red()) <= tolerance
+           && std::abs(qGreen(c) - expected.green()) <= tolerance
+           && std::abs(qBlue(c) - expected.blue()) <= tolerance;
+}
+
+// Share of the pixels round the edge that show the screen's blue.
+double blueBorderShare(const QImage &image)
+{
+    const QColor blue(48, 133, 214);
+    int total = 0, matching = 0;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y : {0, image.height() - 1}) {
+            ++total;
+            matching += near(image.pixel(x, y), blue, 12);
+        }
+    }
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x : {0, image.width() - 1}) {
+            ++total;
+            matching += near(image.pixel(x, y), blue, 12);
+        }
+    }
+    return double(matching) / total;
+}
+
+QVector<QImage> loadFrames(const QString &pattern, int first, int count, int digits,
+                           const QSize &size)
+{
+    QVector<QImage> frames;
+    for (int i = first; i < first + count; ++i) {
+        const QString name = pattern.arg(i, digits, 10, QLatin1Char('0'));
+        const QImage frame = loadAsset(name);
+        if (frame.isNull())
+            qWarning("cannot read %s", qPrintable(name));
+        else if (frame.size() != size)
+            qWarning("%s is %dx%d", qPrintable(name), frame.width(), frame.height());
+        if (frame.isNull() || frame.size() != size)
+            return {};
+        frames.append(frame);
+    }
+    return frames;
+}
+
+struct Wav
+{
+    quint16 format = 0, channels = 0, bits = 0, blockAlign = 0;
+    quint32 rate = 0, byteRate = 0;
+    QVector<qint16> samples;
+    QString problem;
+};
+
+Wav readWav(const QByteArray &bytes)
+{
+    Wav wav;
+    auto u32 = [&bytes](int at) { return qFromLittleEndian<quint32>(bytes.constData() + at); };
+    auto u16 = [&bytes](int at) { return qFromLittleEndian<quint16>(bytes.constData() + at); };
+    if (bytes.size() < 44 || !bytes.startsWith("RIFF") || bytes.mid(8, 4) != "WAVE") {
+        wav.problem = QStringLiteral("not a RIFF WAVE file");
+        return wav;
+    }
+    if (u32(4) != quint32(bytes.size() - 8)) {
+        wav.problem = QStringLiteral("RIFF size does not match the file");
+        return wav;
+    }
+    bool haveFormat = false;
+    for (int at = 12; at + 8 <= bytes.size();) {
+        const QByteArray id = bytes.mid(at, 4);
+        const quint32 size = u32(at + 4);
+        if (at + 8 + qint64(size) > bytes.size()) {
+            wav.problem = QStringLiteral("chunk %1 runs past the end").arg(QString::fromLatin1(id));
+            return wav;
+        }
+        if (id == "fmt " && size >= 16) {
+            wav.format = u16(at + 8);
+            wav.channels = u16(at + 10);
+            wav.rate = u32(at + 12);
+            wav.byteRate = u32(at + 16);
+            wav.blockAlign = u16(at + 20);
+            wav.bits = u16(at + 22);
+            haveFormat = true;
+        } else if (id == "data") {
+            for (quint32 i = 0; i + 1 < size; i += 2)
+                wav.samples.append(qFromLittleEndian<qint16>(bytes.constData() + at + 8 + i));
+        }
+        at += 8 + int(size) + int(size % 2);
+    }
+    if (!haveFormat || wav.samples.isEmpty())
+        wav.problem = QStringLiteral("fmt or data chunk missing");
+    return wav;
+}
+
+QImage patternImage(int colours, bool withHoles)
+{
+    // Colour i has red 37*i mod 256, which is different for every i < 256.
+    QImage image(37, 23, QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const int i = (x * 7 + y * 13) % colours;
+            QRgb c = qRgb((i * 37) % 256, (i * 91 + 5) % 256, (i * 53 + 11) % 256);
+            if (withHoles && (x + 2 * y) % 5 == 0)
+                c = qRgba(0, 0, 0, 0);
+            image.setPixel(x, y, c);
+        }
+    }
+    return image;
+}
+
+} // namespace
+
+class TestAssetFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void icons_data();
+    void icons();
+    void titleAnimation();
+    void rewardSets_data();
+    void rewardSets();
+    void starSeries_data();
+    void starSeries();
+    void harpSounds_data();
+    void harpSounds();
+    void harpSoundsAreDifferent();
+    void gifKeepsExactColours_data();
+    void gifKeepsExactColours();
+    void gifReducesManyColours();
+    void gifReportsFailures();
+};
+
+void TestAssetFiles::icons_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("format");
+    for (const char *name : {"fraction", "trffc10a", "quest", "hand", "door2", "arw05rt"})
+        QTest::newRow(name) << QStringLiteral("ico/%1.ico").arg(QLatin1String(name))
+                            << QByteArray("ico");
+    QTest::newRow("print") << QStringLiteral("ico/print.bmp") << QByteArray("bmp");
+}
+
+void TestAssetFiles::icons()
+{
+    QFETCH(QString, file);
+    QFETCH(QByteArray, format);
+    QImageReader reader(assetPath(file));
+    QCOMPARE(reader.format(), format);
+    const QImage icon = reader.read().convertToFormat(QImage::Format_ARGB32);
+    QVERIFY2(!icon.isNull(), qPrintable(reader.errorString()));
+    QCOMPARE(icon.size(), QSize(32, 32));
+
+    QSet<QRgb> colours;
+    int solid = 0;
+    for (int y = 0; y < 32; ++y)
+        for (int x = 0; x < 32; ++x) {
+            colours.insert(icon.pixel(x, y));
+            solid += qAlpha(icon.pixel(x, y)) == 255;
+        }
+    QVERIFY2(colours.size() >= 12, "too few colours for a drawn icon");
+    if (format == "ico") {
+        // Drawn on a clear background that shows through round the shape.
+        QCOMPARE(qAlpha(icon.pixel(0, 0)), 0);
+        QVERIFY2(solid >= 200 && solid <= 1000, qPrintable(QString::number(solid)));
+    } else {
+        QCOMPARE(solid, 32 * 32);
+    }
+}
+
+void TestAssetFiles::titleAnimation()
+{
+    const QVector<QImage> frames =
+        loadFrames(QStringLiteral("gif/sphfra/sphf%1.jpg"), 0, 50, 4, QSize(256, 256));
+    QCOMPARE(frames.size(), 50);
+
+    const QColor blue(48, 133, 214);
+    QVERIFY(near(frames[0].pixel(2, 2), blue, 6));
+    QVERIFY(near(frames[0].pixel(253, 253), blue, 6));
+
+    double largestStep = 0;
+    for (int i = 0; i + 1 < frames.size(); ++i) {
+        QVERIFY2(changedPixels(frames[i], frames[i + 1], 20) > 100,
+                 qPrintable(QStringLiteral("frames %1 and %2 are the same").arg(i).arg(i + 1)));
+        largestStep = std::max(largestStep, meanDifference(frames[i], frames[i + 1]));
+    }
+    // Going round from the last frame to the first is no bigger a change
+    // than any other step, and far smaller than the turn across the loop.
+    const double wrap = meanDifference(frames[49], frames[0]);
+    QVERIFY2(wrap <= largestStep * 1.3,
+             qPrintable(QStringLiteral("wrap %1, largest step %2").arg(wrap).arg(largestStep)));
+    QVERIFY2(meanDifference(frames[0], frames[25]) > wrap * 4,
+             qPrintable(QStringLiteral("half way %1, wrap %2")
+                            .arg(meanDifference(frames[0], frames[25]))
+                            .arg(wrap)));
+}
+
+void TestAssetFiles::rewardSets_data()
+{
+    QTest::addColumn<QString>("set");
+    QTest::addColumn<int>("height");
+    for (const char *name : {"solita", "neckla", "hanoi", "sphfra", "starfr", "gazebo", "earthc"})
+        QTest::newRow(name) << QString::fromLatin1(name) << 240;
+    for (const char *name : {"thermo", "cake", "greenb"})
+        QTest::newRow(name) << QString::fromLatin1(name) << 320;
+}
+
+void TestAssetFiles::rewardSets()
+{
+    QFETCH(QString, set);
+    QFETCH(int, height);
+    const QVector<QImage> frames = loadFrames(QStringLiteral("jpg2/") + set + QStringLiteral("%1.jpg"),
+                                              0, 21, 2, QSize(288, height));
+    QCOMPARE(frames.size(), 21);
+
+    // The picture sits on the blue screen: its corners are that blue.
+    QVERIFY(near(frames[0].pixel(0, 0), QColor(48, 133, 214), 10));
+
+    const int pixels = 288 * height;
+    const int whole = changedPixels(frames[0], frames[20]);
+    QVERIFY2(whole > pixels / 10, qPrintable(QStringLiteral("only %1 pixels").arg(whole)));
+    for (int step = 1; step <= 20; ++step) {
+        const int changed = changedPixels(frames[step - 1], frames[step]);
+        QVERIFY2(changed >= 60, qPrintable(QStringLiteral("step %1 changes only %2 pixels")
+                                               .arg(step)
+                                               .arg(changed)));
+    }
+}
+
+void TestAssetFiles::starSeries_data()
+{
+    QTest::addColumn<int>("series");
+    for (int s = 0; s < 4; ++s)
+        QTest::addRow("series %d", s) << s;
+}
+
+void TestAssetFiles::starSeries()
+{
+    QFETCH(int, series);
+    const QString pattern = QStringLiteral("reward/stars%1").arg(series) + QStringLiteral("%1.jpg");
+    const QVector<QImage> frames = loadFrames(pattern, 0, 20, 2, QSize(324, 262));
+    QCOMPARE(frames.size(), 20);
+    QVERIFY(blueBorderShare(frames[0]) > 0.8);
+
+    // Played forwards or backwards round and round: every step, including
+    // 19 to 0, is a visible change of about the same size.
+    double smallest = 1e9, largest = 0;
+    for (int i = 0; i < 20; ++i) {
+        const QImage &a = frames[i];
+        const QImage &b = frames[(i + 1) % 20];
+        QVERIFY2(changedPixels(a, b, 30) > 100,
+                 qPrintable(QStringLiteral("frame %1 to the next hardly changes").arg(i)));
+        const double d = meanDifference(a, b);
+        if (i < 19) {
+            smallest = std::min(smallest, d);
+            largest = std::max(largest, d);
+        }
+    }
+    const double wrap = meanDifference(frames[19], frames[0]);
+    QVERIFY2(wrap <= largest * 1.3 && wrap >= smallest * 0.7,
+             qPrintable(QStringLiteral("wrap %1, steps %2..%3").arg(wrap).arg(smallest).arg(largest)));
+
+    // Each series is its own animation.
+    const QImage other = loadAsset(QStringLiteral("reward/stars%1%2.jpg").arg((series + 1) % 4).arg(0, 2, 10, QLatin1Char('0')));
+    QVERIFY(changedPixels(frames[0], other) > 2000);
+}
+
+void TestAssetFiles::harpSounds_data()
+{
+    QTest::addColumn<QString>("file");
+    for (int i = 1; i <= 5; ++i)
+        QTest::addRow("harp%d", i) << QStringLiteral("wav/harp%1.wav").arg(i);
+}
+
+void TestAssetFiles::harpSounds()
+{
+    QFETCH(QString, file);
+    QFile f(assetPath(file));
+    QVERIFY2(f.open(QIODevice::ReadOnly), qPrintable(f.errorString()));
+    const Wav wav = readWav(f.readAll());
+    QVERIFY2(wav.problem.isEmpty(), qPrintable(wav.problem));
+    QCOMPARE(wav.format, quint16(1));
+    QCOMPARE(wav.channels, quint16(1));
+    QCOMPARE(wav.rate, quint32(22050));
+    QCOMPARE(wav.bits, quint16(16));
+    QCOMPARE(wav.blockAlign, quint16(2));
+    QCOMPARE(wav.byteRate, quint32(44100));
+
+    const double seconds = wav.samples.size() / 22050.0;
+    QVERIFY2(seconds >= 0.8 && seconds <= 2.0, qPrintable(QString::number(seconds)));
+    int peak = 0;
+    double early = 0;
+    for (int i = 0; i < wav.samples.size(); ++i) {
+        peak = std::max(peak, std::abs(int(wav.samples[i])));
+        if (i < 11025)
+            early += double(wav.samples[i]) * wav.samples[i];
+    }
+    QVERIFY2(peak >= 8000 && peak < 32767, qPrintable(QString::number(peak)));  // loud, not clipped
+    QVERIFY(std::sqrt(early / 11025) > 1000);  // the first half second is clearly audible
+    QVERIFY(std::abs(wav.samples.first()) < 300);  // no click at either end
+    QVERIFY(std::abs(wav.samples.last()) < 300);
+}
+
+void TestAssetFiles::harpSoundsAreDifferent()
+{
+    QVector<QByteArray> sounds;
+    for (int i = 1; i <= 5; ++i) {
+        QFile f(assetPath(QStringLiteral("wav/harp%1.wav").arg(i)));
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        sounds.append(f.readAll().mid(44, 22050));
+    }
+    for (int i = 0; i < sounds.size(); ++i)
+        for (int j = i + 1; j < sounds.size(); ++j)
+            QVERIFY2(sounds[i] != sounds[j], qPrintable(QStringLiteral("harp%1 = harp%2").arg(i + 1).arg(j + 1)));
+}
+
+void TestAssetFiles::gifKeepsExactColours_data()
+{
+    QTest::addColumn<int>("colours");
+    QTest::addColumn<bool>("holes");
+    QTest::newRow("two colours") << 2 << false;
+    QTest::newRow("five colours") << 5 << false;
+    QTest::newRow("two hundred colours") << 200 << false;
+    QTest::newRow("full palette") << 256 << false;
+    QTest::newRow("see-through holes") << 100 << true;
+    QTest::newRow("full palette less the see-through one") << 255 << true;
+}
+
+void TestAssetFiles::gifKeepsExactColours()
+{
+    QFETCH(int, colours);
+    QFETCH(bool, holes);
+    const QImage original = patternImage(colours, holes);
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString path = dir.filePath(QStringLiteral("pattern.gif"));
+    QString error;
+    QVERIFY2(writeGif(original, path, &error), qPrintable(error));
+
+    QImageReader reader(path);
+    QCOMPARE(reader.format(), QByteArray("gif"));
+    const QImage back = reader.read().convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(back.size(), original.size());
+    for (int y = 0; y < original.height(); ++y) {
+        for (int x = 0; x < original.width(); ++x) {
+            const QRgb want = original.pixel(x, y), got = back.pixel(x, y);
+            if (qAlpha(want) == 0)
+                QVERIFY2(qAlpha(got) == 0, qPrintable(QStringLiteral("(%1,%2) not clear").arg(x).arg(y)));
+            else
+                QVERIFY2(got == want, qPrintable(QStringLiteral("(%1,%2): %3 instead of %4")
+                                                     .arg(x).arg(y).arg(got, 8, 16).arg(want, 8, 16)));
+        }
+    }
+}
+
+void TestAssetFiles::gifReducesManyColours()
+{
+    // 4096 colours must come down to 256, close to the originals, and the
+    // same file every time.
+    QImage original(64, 64, QImage::Format_ARGB32);
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 64; ++x)
+            original.setPixel(x, y, qRgb(x * 4, y * 4, (x + y) * 2));
+    QString error;
+    const QByteArray gif = encodeGif(original, &error);
+    QVERIFY2(!gif.isEmpty(), qPrintable(error));
+    QCOMPARE(encodeGif(original), gif);
+
+    const QImage back = QImage::fromData(gif, "gif").convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(back.size(), original.size());
+    QSet<QRgb> used;
+    int worst = 0;
+    double total = 0;
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 64; ++x) {
+            const QRgb a = original.pixel(x, y), b = back.pixel(x, y);
+            used.insert(b);
+            const int d = std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                                    std::abs(qBlue(a) - qBlue(b))});
+            worst = std::max(worst, d);
+            total += d;
+        }
+    QVERIFY(used.size() <= 256);
+    QVERIFY(used.size() > 128);
+    QVERIFY2(worst <= 24, qPrintable(QString::number(worst)));
+    QVERIFY2(total / 4096 <= 8, qPrintable(QString::number(total / 4096)));
+}
+
+void TestAssetFiles::gifReportsFailures()
+{
+    QString error;
+    QVERIFY(encodeGif(QImage(), &error).isEmpty());
+    QVERIFY(!error.isEmpty());
+
+    QTemporaryDir dir;
+    error.clear();
+    QVERIFY(!writeGif(patternImage(4, false), dir.filePath(QStringLiteral("missing/folder/x.gif")),
+                      &error));
+    QVERIFY(!error.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestAssetFiles)
+#include "tst_assetfiles.moc"

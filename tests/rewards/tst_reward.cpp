@@ -1,0 +1,131 @@
+#include "rewards/grey.h"
+#include "rewards/reward.h"
+#include "runtime/formtimer.h"
+#include "runtime/picturebox.h"
+#include "testsupport.h"
+
+#include <QLabel>
+#include <QtTest>
+
+using namespace Module1;
+
+class TestReward : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { world.fresh(); }
+    void eachShowingDrawsASeriesAndDirection();
+    void starsPlayFiftyFramesEitherWay_data();
+    void starsPlayFiftyFramesEitherWay();
+    void theRetryMessageNeverPlaysStars();
+    void greyBringsUpTheStarsAndFormsAHarpName();
+    void theRetryPanelSitsOverTheActivity();
+
+private:
+    TestSupport::World world;
+};
+
+void TestReward::eachShowingDrawsASeriesAndDirection()
+{
+    QSet<int> sets, steps;
+    for (int i = 0; i < 400; ++i) {
+        Forms::unload("Reward");
+        Reward* reward = Forms::show<Reward>();
+        sets.insert(starset);
+        steps.insert(starstep);
+        QCOMPARE(starframe, 50 * (starstep + 1) + starstep);
+        QVERIFY(reward->Timer1->isEnabled());
+        QVERIFY(!reward->Label1->isVisibleTo(reward) && !reward->Label2->isVisibleTo(reward));
+    }
+    QCOMPARE(sets, (QSet<int>{0, 1, 2, 3}));
+    QCOMPARE(steps, (QSet<int>{-1, 1}));
+}
+
+void TestReward::starsPlayFiftyFramesEitherWay_data()
+{
+    QTest::addColumn<int>("step");
+    QTest::addColumn<QStringList>("files");
+    QStringList up, down;
+    for (int f = 0; f <= 49; ++f)
+        up << QString("reward\\stars2%1.jpg").arg(f % 20, 2, 10, QChar('0'));
+    for (int f = 100; f >= 51; --f)
+        down << QString("reward\\stars2%1.jpg").arg(f % 20, 2, 10, QChar('0'));
+    QTest::newRow("counting up") << -1 << up;
+    QTest::newRow("counting down") << 1 << down;
+}
+
+void TestReward::starsPlayFiftyFramesEitherWay()
+{
+    QFETCH(int, step);
+    QFETCH(QStringList, files);
+    QCOMPARE(files.first(), QString("reward\\stars200.jpg"));
+    QPointer<Reward> reward = Forms::show<Reward>();
+    starset = 2;
+    starstep = step;
+    starframe = 50 * (step + 1) + step;
+    QStringList shown;
+    for (int tick = 0; tick < 60 && Forms::isLoaded("Reward"); ++tick) {
+        reward->Timer1_Timer();
+        if (Forms::isLoaded("Reward"))
+            shown << reward->Image2->picturePath();
+    }
+    QCOMPARE(shown, files);
+    QVERIFY(!Forms::isLoaded("Reward"));
+    TestSupport::flushUnloads();
+    QVERIFY(reward.isNull());
+}
+
+void TestReward::theRetryMessageNeverPlaysStars()
+{
+    showreward();
+    QPointer<Reward> reward = Forms::find<Reward>();
+    QVERIFY(reward->isVisible());
+    QCOMPARE(reward->Label1->text(), QString("You have been unsuccessful in the Challenge."));
+    QCOMPARE(reward->Label2->text(), QString("The Challenge will begin again."));
+    QVERIFY(reward->Label1->isVisible() && reward->Label2->isVisible());
+    QVERIFY(!reward->Timer1->isEnabled());
+    QVERIFY(reward->Timer3->isEnabled());
+    QVERIFY(reward->Image2->picturePath().isEmpty());
+    reward->Timer3_Timer();
+    QVERIFY(!reward->Timer3->isEnabled());
+    QVERIFY(Forms::isLoaded("Reward"));
+    reward->Timer2_Timer(); // the message has stayed long enough
+    QVERIFY(!Forms::isLoaded("Reward"));
+    QCOMPARE(retry, 0);
+}
+
+void TestReward::greyBringsUpTheStarsAndFormsAHarpName()
+{
+    Grey* grey = Forms::load<Grey>();
+    QVERIFY(!grey->isVisible());
+    QSet<QString> harps;
+    for (int i = 0; i < 200; ++i) {
+        grey->Timer1->setEnabled(true);
+        grey->Timer1_Timer();
+        QVERIFY(!grey->Timer1->isEnabled()); // one shot
+        Reward* reward = Forms::find<Reward>();
+        QVERIFY(reward && reward->isVisible() && reward->Timer1->isEnabled());
+        QVERIFY(!reward->Label1->isVisibleTo(reward));
+        harps.insert(grey->harpFile());
+    }
+    QCOMPARE(harps, (QSet<QString>{"wav\\harp1.wav", "wav\\harp2.wav", "wav\\harp3.wav", "wav\\harp4.wav",
+                                    "wav\\harp5.wav"}));
+    QVERIFY(!grey->isVisible());
+    grey->Timer2->setEnabled(true);
+    grey->Timer2_Timer();
+    QVERIFY(!grey->Timer2->isEnabled());
+}
+
+void TestReward::theRetryPanelSitsOverTheActivity()
+{
+    const QRect display = QGuiApplication::primaryScreen()->geometry();
+    Reward* reward = Forms::show<Reward>();
+    // (3660, 1050) twips inside a centred 9600 x 7200 activity screen.
+    const int left = (display.width() * 15 - 9600) / 2 + 3660;
+    const int top = (display.height() * 15 - 7200) / 2 + 1050;
+    QCOMPARE(reward->pos(), QPoint(left / 15, top / 15));
+    QVERIFY(reward->windowFlags() & Qt::FramelessWindowHint);
+    QCOMPARE(reward->backColour(), QColor(48, 133, 214));
+}
+
+QTEST_MAIN(TestReward)
+#include "tst_reward.moc"

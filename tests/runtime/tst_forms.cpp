@@ -1,0 +1,129 @@
+#include "runtime/form.h"
+#include "runtime/forms.h"
+#include "runtime/formtimer.h"
+#include "runtime/twips.h"
+#include "testsupport.h"
+
+#include <QtTest>
+
+// A screen that counts its loads and has a timer, as the real screens do.
+class Probe : public Form {
+    Q_OBJECT
+public:
+    Probe()
+        : Form(QStringLiteral("Probe"))
+        , Timer1(addTimer(QStringLiteral("Timer1"), 1))
+    {
+        ++built;
+    }
+    FormTimer* Timer1;
+    static inline int built = 0;
+    static inline int loads = 0;
+public slots:
+    void Form_Load() { ++loads; }
+};
+
+class Other : public Form {
+    Q_OBJECT
+public:
+    Other() : Form(QStringLiteral("Other")) {}
+};
+
+class TestForms : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void loadingRunsTheLoadStepsOncePerLoad();
+    void unloadingStopsTimersAndDeletes();
+    void showAndUnloadMovesFromScreenToScreen();
+    void timersNeverTickFasterThanTheDisplay();
+    void twipsBecomePixelsInOnePlace();
+};
+
+void TestForms::init()
+{
+    TestSupport::unloadAll();
+    Forms::registerForm("Probe", [] { return new Probe; });
+    Forms::registerForm("Other", [] { return new Other; });
+    Probe::built = Probe::loads = 0;
+}
+
+void TestForms::loadingRunsTheLoadStepsOncePerLoad()
+{
+    QVERIFY(!Forms::isLoaded("Probe"));
+    Probe* p = Forms::load<Probe>();
+    QCOMPARE(p->objectName(), QString("Probe"));
+    QCOMPARE(Probe::loads, 1);
+    QCOMPARE(Forms::show<Probe>(), p); // already loaded: same screen, no new load
+    QVERIFY(p->isVisible());
+    QCOMPARE(Probe::loads, 1);
+    Forms::unload("Probe");
+    QVERIFY(!Forms::isLoaded("Probe"));
+    Forms::show("Probe"); // afresh
+    QCOMPARE(Probe::built, 2);
+    QCOMPARE(Probe::loads, 2);
+}
+
+void TestForms::unloadingStopsTimersAndDeletes()
+{
+    QPointer<Probe> p = Forms::show<Probe>();
+    p->Timer1->setEnabled(true);
+    QVERIFY(p->Timer1->isEnabled());
+    Forms::unload(p.data());
+    QVERIFY(!p->Timer1->isActive()); // nothing of it runs any more
+    QVERIFY(!p->isVisible());
+    TestSupport::flushUnloads();
+    QVERIFY(p.isNull());
+}
+
+void TestForms::showAndUnloadMovesFromScreenToScreen()
+{
+    Probe* p = Forms::show<Probe>();
+    Form* o = Forms::showAndUnload("Other", p);
+    QCOMPARE(o->objectName(), QString("Other"));
+    QCOMPARE(Forms::loadedNames(), QStringList{"Other"});
+    TestSupport::flushUnloads();
+    QCOMPARE(TestSupport::visibleForms(), QStringList{"Other"});
+    // Showing the screen that is already up never unloads it.
+    QCOMPARE(Forms::showAndUnload("Other", o), o);
+    QVERIFY(Forms::isLoaded("Other"));
+    Forms::endProgram();
+    QVERIFY(Forms::loadedNames().isEmpty());
+    QVERIFY(Forms::programEnded());
+}
+
+void TestForms::timersNeverTickFasterThanTheDisplay()
+{
+    FormTimer fast(nullptr, "Timer1", 1);
+    QVERIFY(fast.interval() >= 16);
+    QCOMPARE(fast.objectName(), QString("Timer1"));
+    FormTimer slow(nullptr, "Timer2", 3000);
+    QCOMPARE(slow.interval(), 3000);
+    slow.setDesignInterval(500);
+    QCOMPARE(slow.interval(), 500);
+    // Enabling a running timer keeps its countdown; disabling stops it.
+    slow.setEnabled(true);
+    const int left = slow.remainingTime();
+    slow.setEnabled(true);
+    QVERIFY(slow.remainingTime() <= left);
+    slow.setEnabled(false);
+    QVERIFY(!slow.isEnabled());
+}
+
+void TestForms::twipsBecomePixelsInOnePlace()
+{
+    QCOMPARE(Twips::toPixels(15), 1);
+    QCOMPARE(Twips::toPixels(9480), 632);
+    QCOMPARE(Twips::fromPixels(434), 6510);
+    QWidget w;
+    Twips::place(&w, 1300, 1200, 1500, 3000);
+    QCOMPARE(w.geometry(), QRect(87, 80, 100, 200));
+    QCOMPARE(Twips::font("Times New Roman", 12).pixelSize(), 16);
+    Twips::setScale(1.5);
+    QCOMPARE(Twips::toPixels(1500), 150);
+    QCOMPARE(Twips::font("Times New Roman", 12).pixelSize(), 24);
+    Twips::setScale(1.0);
+}
+
+QTEST_MAIN(TestForms)
+#include "tst_forms.moc"

@@ -1,0 +1,75 @@
+#include "runtime/pictures.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestPictures : public QObject {
+    Q_OBJECT
+private slots:
+    void assetPathsResolveAgainstTheFolder();
+    void eachFileIsDecodedOnce();
+    void aMissingOrBrokenFileIsFatal_data();
+    void aMissingOrBrokenFileIsFatal();
+};
+
+void TestPictures::assetPathsResolveAgainstTheFolder()
+{
+    Pictures::setAssetFolder("/data/assets");
+    QCOMPARE(Pictures::resolve("jpg2\\solita05.jpg"), QString("/data/assets/jpg2/solita05.jpg"));
+    QCOMPARE(Pictures::resolve("gif\\sphfra\\sphf0000.jpg"), QString("/data/assets/gif/sphfra/sphf0000.jpg"));
+}
+
+void TestPictures::eachFileIsDecodedOnce()
+{
+    Pictures::setAssetFolder(PARTITUDE_TEST_ASSETS);
+    Pictures::clearCache();
+    const int before = Pictures::decodeCount();
+    const QPixmap a = Pictures::get("gif\\sphfra\\sphf0000.jpg");
+    const QPixmap b = Pictures::get("gif\\sphfra\\sphf0000.jpg");
+    QVERIFY(!a.isNull());
+    QCOMPARE(a.cacheKey(), b.cacheKey());
+    QCOMPARE(Pictures::decodeCount(), before + 1);
+    QVERIFY(!Pictures::icon("ico\\fraction.ico").isNull());
+    QCOMPARE(Pictures::decodeCount(), before + 2);
+}
+
+void TestPictures::aMissingOrBrokenFileIsFatal_data()
+{
+    QTest::addColumn<QString>("asset");
+    QTest::addColumn<QByteArray>("contents"); // empty: the file is not there
+    QTest::newRow("missing") << "jpg2\\solita05.jpg" << QByteArray();
+    QTest::newRow("not a picture") << "jpg2\\solita05.jpg" << QByteArray("this is not a jpeg");
+    QTest::newRow("cut short") << "gif\\leaf.gif" << QByteArray("GIF89a\x10\x00", 8);
+}
+
+void TestPictures::aMissingOrBrokenFileIsFatal()
+{
+    QFETCH(QString, asset);
+    QFETCH(QByteArray, contents);
+    QTemporaryDir dir;
+    if (!contents.isEmpty()) {
+        QString relative = asset;
+        relative.replace('\\', '/');
+        QVERIFY(QDir(dir.path()).mkpath(QFileInfo(relative).path()));
+        QFile f(dir.filePath(relative));
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(contents);
+    }
+    QProcess probe;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("QT_QPA_PLATFORM", "offscreen");
+    probe.setProcessEnvironment(env);
+    probe.start(PROBE_PATH, {dir.path(), asset});
+    QVERIFY(probe.waitForFinished(30000));
+    const QString out = QString::fromLocal8Bit(probe.readAllStandardOutput());
+    QCOMPARE(probe.exitStatus(), QProcess::NormalExit); // no crash
+    QVERIFY(probe.exitCode() != 0);
+    QVERIFY2(out.startsWith("critical\n"), qPrintable(out));
+    QVERIFY2(out.contains(asset), qPrintable(out));
+    QVERIFY2(out.contains(QDir(dir.path()).absolutePath()), qPrintable(out));
+    QVERIFY(!out.contains("loaded"));
+}
+
+QTEST_MAIN(TestPictures)
+#include "tst_pictures.moc"

@@ -1,0 +1,201 @@
+#include "menus/year.h"
+#include "rewards/grey.h"
+#include "runtime/formtimer.h"
+#include "runtime/picturebox.h"
+#include "shell/form1.h"
+#include "shell/titlefrm.h"
+#include "testsupport.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
+
+using namespace Module1;
+using TestSupport::fileBytes;
+using TestSupport::writeBytes;
+
+class TestStartup : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { world.fresh(); }
+    void settingsDecideTheWayOn_data();
+    void settingsDecideTheWayOn();
+    void firstRunWritesTheDefaults();
+    void choicesAreWrittenWhenClicked();
+    void anUnwritableFolderKeepsTheChoiceForThisRun();
+    void theSphereTurnsAndWraps();
+    void theDoorLeadsBackToATitleThatCanCancel();
+    void exitEndsTheProgram();
+
+private:
+    Titlefrm* startTitle(const QByteArray& edition, const QByteArray& sound);
+    TestSupport::World world;
+};
+
+// Writes the two files ("<none>" leaves one out) and loads the title screen.
+Titlefrm* TestStartup::startTitle(const QByteArray& edition, const QByteArray& sound)
+{
+    if (edition != "<none>")
+        writeBytes(world.settingsFile("primary.inf"), edition);
+    if (sound != "<none>")
+        writeBytes(world.settingsFile("sound.inf"), sound);
+    return Forms::show<Titlefrm>();
+}
+
+void TestStartup::settingsDecideTheWayOn_data()
+{
+    QTest::addColumn<QByteArray>("edition");
+    QTest::addColumn<QByteArray>("sound");
+    QTest::addColumn<QString>("version");
+    QTest::addColumn<int>("option");
+    QTest::addColumn<bool>("exitEnabled");
+    QTest::addColumn<QString>("next");
+    QTest::newRow("first run") << QByteArray("<none>") << QByteArray("<none>") << "-1" << 0 << false << "Form1";
+    QTest::newRow("primary, sound") << QByteArray("0\r\n") << QByteArray("0\r\n") << "0" << 1 << true << "Year";
+    QTest::newRow("secondary, no sound") << QByteArray("1\r\n") << QByteArray("1\r\n") << "1" << 0 << true << "Year";
+    QTest::newRow("sound 2 is offered") << QByteArray("1\r\n") << QByteArray("2\r\n") << "1" << 1 << true << "Year";
+    QTest::newRow("sound file missing") << QByteArray("1\r\n") << QByteArray("<none>") << "-1" << 0 << false << "Form1";
+    QTest::newRow("edition garbage") << QByteArray("primary\r\n") << QByteArray("0\r\n") << "-1" << 0 << false << "Form1";
+    QTest::newRow("sound garbage") << QByteArray("0\r\n") << QByteArray("\xff\xfe loud") << "-1" << 0 << false << "Form1";
+    QTest::newRow("empty edition") << QByteArray("") << QByteArray("0\r\n") << "-1" << 0 << false << "Form1";
+    QTest::newRow("-1 in the file") << QByteArray("-1\r\n") << QByteArray("0\r\n") << "-1" << 1 << false << "Form1";
+}
+
+void TestStartup::settingsDecideTheWayOn()
+{
+    QFETCH(QByteArray, edition);
+    QFETCH(QByteArray, sound);
+    QFETCH(QString, version);
+    QFETCH(int, option);
+    QFETCH(bool, exitEnabled);
+    QFETCH(QString, next);
+    Titlefrm* title = startTitle(edition, sound);
+    QCOMPARE(Module1::version, version);
+    QCOMPARE(soundoption, option);
+    QCOMPARE(title->Command2->isEnabled(), exitEnabled);
+    QCOMPARE(title->Picture1->picturePath(), QString("gif\\sphfra\\sphf0000.jpg"));
+    QCOMPARE(title->iconPath(), QString("ico\\fraction.ico"));
+    QVERIFY(Forms::isLoaded("Grey"));
+    QVERIFY(world.messages.isEmpty()); // bad files are never reported
+
+    QTest::mouseClick(title->Command1, Qt::LeftButton);
+    TestSupport::flushUnloads();
+    QCOMPARE(TestSupport::visibleForms(), QStringList{next});
+    QVERIFY(!Forms::isLoaded("Titlefrm"));
+}
+
+void TestStartup::firstRunWritesTheDefaults()
+{
+    Titlefrm* title = startTitle("<none>", "<none>");
+    QTest::mouseClick(title->Command1, Qt::LeftButton);
+    Form1* settings = Forms::find<Form1>();
+    QVERIFY(settings && settings->Frame1->isVisible());
+    QCOMPARE(fileBytes(world.settingsFile("primary.inf")), QByteArray("0\r\n"));
+    QCOMPARE(fileBytes(world.settingsFile("sound.inf")), QByteArray("0\r\n"));
+    QCOMPARE(Module1::version, QString("0"));
+    QCOMPARE(soundsetting, QString("0"));
+    QCOMPARE(soundoption, 1);
+    QVERIFY(settings->Option1->isChecked());
+    QVERIFY(!settings->Check2->isChecked());
+    QCOMPARE(settings->Option2->text(), QString("  Secondary School version"));
+    QCOMPARE(settings->Check2->text(), QString("  Remove option to play sound"));
+
+    QTest::mouseClick(settings->Command1, Qt::LeftButton); // OK at once
+    TestSupport::flushUnloads();
+    QCOMPARE(TestSupport::visibleForms(), QStringList{"Year"});
+    QCOMPARE(fileBytes(world.settingsFile("primary.inf")), QByteArray("0\r\n"));
+}
+
+void TestStartup::choicesAreWrittenWhenClicked()
+{
+    Module1::version = "-1";
+    Form1* settings = Forms::show<Form1>();
+    QTest::mouseClick(settings->Option2, Qt::LeftButton);
+    QCOMPARE(fileBytes(world.settingsFile("primary.inf")), QByteArray("1\r\n"));
+    QCOMPARE(Module1::version, QString("1"));
+    QTest::mouseClick(settings->Option1, Qt::LeftButton);
+    QCOMPARE(fileBytes(world.settingsFile("primary.inf")), QByteArray("0\r\n"));
+    QCOMPARE(Module1::version, QString("0"));
+
+    QTest::mouseClick(settings->Check2, Qt::LeftButton);
+    QCOMPARE(fileBytes(world.settingsFile("sound.inf")), QByteArray("1\r\n"));
+    QCOMPARE(soundoption, 0);
+    QCOMPARE(soundsetting, QString("1"));
+    QTest::mouseClick(settings->Check2, Qt::LeftButton);
+    QCOMPARE(fileBytes(world.settingsFile("sound.inf")), QByteArray("0\r\n"));
+    QCOMPARE(soundoption, 1);
+
+    // The next start reads what was chosen last.
+    QTest::mouseClick(settings->Option2, Qt::LeftButton);
+    Forms::unload(settings);
+    Module1::reset();
+    Titlefrm* title = Forms::show<Titlefrm>();
+    QCOMPARE(Module1::version, QString("1"));
+    QCOMPARE(soundoption, 1);
+    QVERIFY(title->Command2->isEnabled());
+}
+
+void TestStartup::anUnwritableFolderKeepsTheChoiceForThisRun()
+{
+    writeBytes(world.settingsFile("blocker"), "a file, not a folder");
+    SettingsFile::setFolder(world.settingsFile("blocker/settings"));
+    Titlefrm* title = Forms::show<Titlefrm>();
+    QTest::mouseClick(title->Command1, Qt::LeftButton);
+    Form1* settings = Forms::find<Form1>();
+    QVERIFY(settings);
+    QTest::mouseClick(settings->Option2, Qt::LeftButton);
+    QCOMPARE(Module1::version, QString("1"));
+    QTest::mouseClick(settings->Command1, Qt::LeftButton);
+    QVERIFY(Forms::isLoaded("Year"));
+    QVERIFY(world.messages.isEmpty());
+}
+
+void TestStartup::theSphereTurnsAndWraps()
+{
+    QCOMPARE(Titlefrm::frameFile(9), QString("gif\\sphfra\\sphf0009.jpg"));
+    QCOMPARE(Titlefrm::frameFile(10), QString("gif\\sphfra\\sphf0010.jpg"));
+    Titlefrm* title = startTitle("0", "0");
+    QVERIFY(title->Timer1->isEnabled()); // it turns from the start
+    QVERIFY(title->Timer1->interval() >= 16); // but never faster than the display
+    QStringList seen;
+    for (int tick = 0; tick < 51; ++tick) {
+        title->Timer1_Timer();
+        seen << title->Picture1->picturePath();
+    }
+    QCOMPARE(seen.at(8), QString("gif\\sphfra\\sphf0009.jpg"));
+    QCOMPARE(seen.at(48), QString("gif\\sphfra\\sphf0049.jpg"));
+    QCOMPARE(seen.at(49), QString("gif\\sphfra\\sphf0000.jpg"));
+    QCOMPARE(seen.at(50), QString("gif\\sphfra\\sphf0001.jpg"));
+    QCOMPARE(QSet<QString>(seen.begin(), seen.end()).size(), 50);
+}
+
+void TestStartup::theDoorLeadsBackToATitleThatCanCancel()
+{
+    Titlefrm* title = startTitle("0", "0");
+    QTest::mouseClick(title->Command1, Qt::LeftButton);
+    Year* year = Forms::find<Year>();
+    QVERIFY(year);
+    QCOMPARE(year->Command4->property("picturePath").toString(), QString("ico\\door2.ico"));
+    QTest::mouseClick(year->Command4, Qt::LeftButton);
+    TestSupport::flushUnloads();
+    QCOMPARE(TestSupport::visibleForms(), QStringList{"Titlefrm"});
+    title = Forms::find<Titlefrm>();
+    QCOMPARE(title->Command1->text(), QString("Cancel"));
+    QVERIFY(title->Command2->isEnabled());
+    QTest::mouseClick(title->Command1, Qt::LeftButton);
+    TestSupport::flushUnloads();
+    QCOMPARE(TestSupport::visibleForms(), QStringList{"Year"});
+}
+
+void TestStartup::exitEndsTheProgram()
+{
+    Titlefrm* title = startTitle("1", "0");
+    QTest::mouseClick(title->Command2, Qt::LeftButton);
+    QVERIFY(Forms::programEnded());
+    QVERIFY(Forms::loadedNames().isEmpty());
+}
+
+QTEST_MAIN(TestStartup)
+#include "tst_startup.moc"

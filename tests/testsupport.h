@@ -1,0 +1,84 @@
+#pragma once
+// What every screen test needs: the drawn assets, a fresh temporary settings
+// folder, the screens registered, message boxes answered by the test, a fixed
+// random seed, and a way to unload everything between test functions.
+#include "runtime/forms.h"
+#include "runtime/msgbox.h"
+#include "runtime/pictures.h"
+#include "runtime/random.h"
+#include "runtime/settingsfile.h"
+#include "shell/module1.h"
+#include "shell/screens.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <memory>
+
+namespace TestSupport {
+
+// Deletes the screens that were unloaded (they go at the end of an event).
+inline void flushUnloads()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+inline void unloadAll()
+{
+    for (const QString& name : Forms::loadedNames())
+        Forms::unload(name);
+    flushUnloads();
+}
+
+inline QStringList visibleForms()
+{
+    QStringList names;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->isVisible())
+            names << w->objectName();
+    names.sort();
+    return names;
+}
+
+inline QByteArray fileBytes(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
+}
+
+inline void writeBytes(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    if (f.open(QIODevice::WriteOnly))
+        f.write(bytes);
+}
+
+// One test's world: call fresh() at the start of each test function.
+struct World {
+    std::unique_ptr<QTemporaryDir> settings;
+    QList<MsgBox::Request> messages;
+    MsgBox::Answer answer = MsgBox::Answer::Ok;
+
+    void fresh(quint64 seed = 1)
+    {
+        unloadAll();
+        Module1::reset();
+        Random::fixSeed(seed);
+        settings = std::make_unique<QTemporaryDir>();
+        SettingsFile::setFolder(settings->path());
+        Pictures::setAssetFolder(QStringLiteral(PARTITUDE_TEST_ASSETS));
+        registerScreens();
+        messages.clear();
+        MsgBox::setHandler([this](const MsgBox::Request& r) {
+            messages << r;
+            return answer;
+        });
+    }
+
+    QString settingsFile(const QString& name) const { return settings->filePath(name); }
+};
+
+} // namespace TestSupport
