@@ -239,17 +239,27 @@ void TestAssetFiles::titleAnimation()
     QVERIFY(near(frames[0].pixel(2, 2), blue, 6));
     QVERIFY(near(frames[0].pixel(253, 253), blue, 6));
 
-    double largestStep = 0;
-    for (int i = 0; i + 1 < frames.size(); ++i) {
-        QVERIFY2(changedPixels(frames[i], frames[i + 1], 20) > 100,
-                 qPrintable(QStringLiteral("frames %1 and %2 are the same").arg(i).arg(i + 1)));
-        largestStep = std::max(largestStep, meanDifference(frames[i], frames[i + 1]));
+    // Shown round and round: every step, 49 to 0 included, is a visible turn
+    // of about the same size; a repeated frame would stutter, a bigger
+    // change would jump.
+    double smallestStep = 1e9, largestStep = 0;
+    for (int i = 0; i < frames.size(); ++i) {
+        const QImage &a = frames[i];
+        const QImage &b = frames[(i + 1) % frames.size()];
+        QVERIFY2(changedPixels(a, b, 20) > 100,
+                 qPrintable(QStringLiteral("frame %1 and the next are the same").arg(i)));
+        if (i + 1 < frames.size()) {
+            smallestStep = std::min(smallestStep, meanDifference(a, b));
+            largestStep = std::max(largestStep, meanDifference(a, b));
+        }
     }
-    // Going round from the last frame to the first is no bigger a change
-    // than any other step, and far smaller than the turn across the loop.
     const double wrap = meanDifference(frames[49], frames[0]);
-    QVERIFY2(wrap <= largestStep * 1.3,
-             qPrintable(QStringLiteral("wrap %1, largest step %2").arg(wrap).arg(largestStep)));
+    QVERIFY2(wrap <= largestStep * 1.3 && wrap >= smallestStep * 0.7,
+             qPrintable(QStringLiteral("wrap %1, steps %2..%3")
+                            .arg(wrap)
+                            .arg(smallestStep)
+                            .arg(largestStep)));
+    // The whole loop turns the ball much further than one step.
     QVERIFY2(meanDifference(frames[0], frames[25]) > wrap * 4,
              qPrintable(QStringLiteral("half way %1, wrap %2")
                             .arg(meanDifference(frames[0], frames[25]))
@@ -274,12 +284,17 @@ void TestAssetFiles::rewardSets()
                                               0, 21, 2, QSize(288, height));
     QCOMPARE(frames.size(), 21);
 
-    // The picture sits on the blue screen: its corners are that blue.
-    QVERIFY(near(frames[0].pixel(0, 0), QColor(48, 133, 214), 10));
+    // The picture sits on the blue screen: its corners are that blue, give
+    // or take the JPEG fringe of the panel's white rim nearby.
+    for (const QImage &frame : {frames[0], frames[20]})
+        for (const QPoint &corner : {QPoint(0, 0), QPoint(287, height - 1)})
+            QVERIFY(near(frame.pixel(corner), QColor(48, 133, 214), 20));
 
+    // The finished picture is far from the empty one, and every step adds
+    // something a child can see.
     const int pixels = 288 * height;
     const int whole = changedPixels(frames[0], frames[20]);
-    QVERIFY2(whole > pixels / 10, qPrintable(QStringLiteral("only %1 pixels").arg(whole)));
+    QVERIFY2(whole > pixels / 20, qPrintable(QStringLiteral("only %1 pixels").arg(whole)));
     for (int step = 1; step <= 20; ++step) {
         const int changed = changedPixels(frames[step - 1], frames[step]);
         QVERIFY2(changed >= 60, qPrintable(QStringLiteral("step %1 changes only %2 pixels")

@@ -1,0 +1,10 @@
+// One function per family of files the asset tool writes.
+#pragma once
+
+class AssetOutput;
+
+void drawIcons(AssetOutput &out);        // ico/*.ico, ico/print.bmp
+void drawTitleFrames(AssetOutput &out);  // gif/sphfra/sphf0000.jpg .. sphf0049.jpg
+void drawRewardSets(AssetOutput &out);   // jpg2/<set>00.jpg .. <set>20.jpg
+void drawStarSeries(AssetOutput &out);   // reward/stars000.jpg .. stars319.jpg
+void writeHarpSounds(AssetOutput &out);  // wav/harp1.wav .. harp5.wav
