@@ -79,7 +79,8 @@ Form* show(const QString& name)
     if (form) {
         form->show();
         form->raise();
-        form->activateWindow();
+        if (!form->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus))
+            form->activateWindow();
     }
     return form;
 }

@@ -54,7 +54,6 @@ Form1::Form1()
     Label3->setAlignment(Qt::AlignCenter);
     Twips::place(Label3, 480, 420, 6240, 900);
 
-    setControlBackColour(Frame1, kPanel);
     Twips::place(Frame1, 960, 1380, 5280, 1500);
     for (QRadioButton* option : {Option1, Option2})
         option->setFont(text);
@@ -63,7 +62,6 @@ Form1::Form1()
     Frame1->hide();
 
     Check2->setFont(text);
-    setControlBackColour(Check2, kPanel);
     Twips::place(Check2, 1320, 3240, 4800, 480);
 
     Command1->setFont(Twips::font(QStringLiteral("Liberation Sans"), 12, true));
