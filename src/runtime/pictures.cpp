@@ -24,7 +24,6 @@ QCache<QString, QPixmap>& cache()
 QPixmap decode(const QString& assetPath)
 {
     QImageReader reader(resolve(assetPath));
-    reader.setDecideFormatFromContent(true);
     const QImage image = reader.read();
     if (image.isNull())
         MsgBox::fatal(missingMessage(assetPath));
