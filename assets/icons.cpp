@@ -12,6 +12,23 @@
 
 namespace {
 
+// A block arrow pointing right: a shaft from tail to neck, then a head that
+// narrows to the tip; both are centred on the line y = middle.
+QPainterPath rightArrow(double tail, double neck, double tip, double middle, double shaftHalf,
+                        double headHalf)
+{
+    QPainterPath arrow;
+    arrow.moveTo(tail, middle - shaftHalf);
+    arrow.lineTo(neck, middle - shaftHalf);
+    arrow.lineTo(neck, middle - headHalf);
+    arrow.lineTo(tip, middle);
+    arrow.lineTo(neck, middle + headHalf);
+    arrow.lineTo(neck, middle + shaftHalf);
+    arrow.lineTo(tail, middle + shaftHalf);
+    arrow.closeSubpath();
+    return arrow;
+}
+
 constexpr int kIconSide = 32;
 constexpr int kDetail = 4;
 
@@ -189,15 +206,7 @@ void exitIcon(QPainter &p)
     p.setPen(outline(QColor(150, 100, 0), 0.5));
     p.drawEllipse(QPointF(14.6, 17.2), 1.3, 1.5);
     // A little arrow on its way out.
-    QPainterPath arrow;
-    arrow.moveTo(18, 22);
-    arrow.lineTo(25, 22);
-    arrow.lineTo(25, 19);
-    arrow.lineTo(31, 24);
-    arrow.lineTo(25, 29);
-    arrow.lineTo(25, 26);
-    arrow.lineTo(18, 26);
-    arrow.closeSubpath();
+    const QPainterPath arrow = rightArrow(18, 25, 31, 24, 2, 5);
     p.setBrush(QColor(235, 60, 60));
     p.setPen(outline(QColor(255, 255, 255), 1.0));
     p.drawPath(arrow);
@@ -206,15 +215,7 @@ void exitIcon(QPainter &p)
 // A bold green arrow pointing right: "next".
 void nextIcon(QPainter &p)
 {
-    QPainterPath arrow;
-    arrow.moveTo(2.5, 11);
-    arrow.lineTo(16, 11);
-    arrow.lineTo(16, 3.5);
-    arrow.lineTo(29.5, 16);
-    arrow.lineTo(16, 28.5);
-    arrow.lineTo(16, 21);
-    arrow.lineTo(2.5, 21);
-    arrow.closeSubpath();
+    const QPainterPath arrow = rightArrow(2.5, 16, 29.5, 16, 5, 12.5);
     QLinearGradient fill(QPointF(0, 4), QPointF(0, 28));
     fill.setColorAt(0, QColor(140, 230, 100));
     fill.setColorAt(1, QColor(30, 145, 40));

@@ -9,8 +9,6 @@
 #include <QPushButton>
 
 namespace {
-constexpr int kWidth = 9600;
-constexpr int kHeight = 7200;
 const QColor kBack(49, 130, 212);
 } // namespace
 
@@ -20,7 +18,7 @@ Year::Year()
     , Label4(new QLabel(QStringLiteral("Partitude"), this))
 {
     setWindowTitle(QStringLiteral("Partitude"));
-    setDesignSize(kWidth, kHeight);
+    setDesignSize(kScreenWidthTwips, kScreenHeightTwips);
     Command4->setObjectName(QStringLiteral("Command4"));
     Command4->setIconSize(QSize(32, 32));
     Twips::place(Command4, 8160, 5520, 1080, 840);
@@ -28,7 +26,7 @@ Year::Year()
     Label4->setFont(Twips::font(QStringLiteral("Times New Roman"), 40, true));
     Label4->setStyleSheet(QStringLiteral("color: white;"));
     Label4->setAlignment(Qt::AlignCenter);
-    Twips::place(Label4, 0, 240, kWidth - Form::kBorderWidthTwips, 1200);
+    Twips::place(Label4, 0, 240, kScreenWidthTwips - kBorderWidthTwips, 1200);
     connect(Command4, &QPushButton::clicked, this, &Year::Command4_Click);
 }
 

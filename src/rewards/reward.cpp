@@ -7,14 +7,10 @@
 #include "runtime/twips.h"
 #include "shell/module1.h"
 
-#include <QGuiApplication>
 #include <QLabel>
-#include <QScreen>
 
 namespace {
 // Where the panel stands inside a centred activity screen, in twips.
-constexpr int kActivityWidth = 9600;
-constexpr int kActivityHeight = 7200;
 constexpr int kOffsetTop = 615 + 435;
 constexpr int kOffsetLeft = 3600 + 60;
 constexpr int kMiddleFrame = 50;
@@ -43,7 +39,7 @@ Reward::Reward()
 {
     setWindowFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus);
     setAttribute(Qt::WA_ShowWithoutActivating);
-    setDesignSize(kWidthTwips + kBorderWidthTwips, kHeightTwips + kBorderHeightTwips);
+    setScaleSize(kWidthTwips, kHeightTwips);
     Twips::place(Image2, 0, 0, kWidthTwips, kHeightTwips);
     Image2->lower();
     Image2->hide();
@@ -64,11 +60,10 @@ void Reward::Form_Load()
     starstep = static_cast<int>(Random::Rnd() * 2) * 2 - 1;
     starframe = kMiddleFrame * (starstep + 1) + starstep;
 
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const QRect display = screen ? screen->geometry() : QRect(0, 0, 1024, 768);
-    const int top = (Twips::fromPixels(display.height()) - kActivityHeight) / 2 + kOffsetTop;
-    const int left = (Twips::fromPixels(display.width()) - kActivityWidth) / 2 + kOffsetLeft;
-    moveTo(left + Twips::fromPixels(display.x()), top + Twips::fromPixels(display.y()));
+    const QRect display = Twips::display();
+    const int top = (display.height() - kScreenHeightTwips) / 2 + kOffsetTop;
+    const int left = (display.width() - kScreenWidthTwips) / 2 + kOffsetLeft;
+    moveTo(display.x() + left, display.y() + top);
     setBackColour(kActivityBack);
 
     const bool message = retry == 1;

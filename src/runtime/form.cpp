@@ -12,7 +12,6 @@ Form::Form(const QString& name, QWidget* parent)
     : QWidget(parent)
 {
     setObjectName(name);
-    setAttribute(Qt::WA_DeleteOnClose, false);
 }
 
 void Form::setDesignSize(int widthTwips, int heightTwips)

@@ -37,6 +37,11 @@ public:
     static constexpr int kBorderWidthTwips = 120;
     static constexpr int kBorderHeightTwips = 690;
 
+    // The outer size every full screen is designed at (the title, the menus
+    // and the activities).
+    static constexpr int kScreenWidthTwips = 9600;
+    static constexpr int kScreenHeightTwips = 7200;
+
 protected:
     // What the window's close box does; by default it ends the program, as
     // the title screen's Exit does.

@@ -9,7 +9,6 @@ PictureBox::PictureBox(QWidget* parent, const QString& name)
     : QWidget(parent)
 {
     setObjectName(name);
-    setAttribute(Qt::WA_OpaquePaintEvent, false);
 }
 
 void PictureBox::load(const QString& assetPath)

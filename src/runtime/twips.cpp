@@ -1,7 +1,9 @@
 #include "twips.h"
 
 #include <QFont>
+#include <QGuiApplication>
 #include <QRect>
+#include <QScreen>
 #include <QWidget>
 #include <cmath>
 
@@ -32,6 +34,14 @@ int fromPixels(int pixels)
 QRect rect(int left, int top, int width, int height)
 {
     return QRect(toPixels(left), toPixels(top), toPixels(width), toPixels(height));
+}
+
+QRect display()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QRect pixels = screen ? screen->geometry() : QRect(0, 0, 1024, 768);
+    return QRect(fromPixels(pixels.x()), fromPixels(pixels.y()), fromPixels(pixels.width()),
+                 fromPixels(pixels.height()));
 }
 
 void place(QWidget* control, int left, int top, int width, int height)

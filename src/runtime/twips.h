@@ -22,6 +22,9 @@ int toPixels(int twips);
 int fromPixels(int pixels);
 QRect rect(int left, int top, int width, int height);
 
+// The primary display's Left, Top, Width and Height in twips.
+QRect display();
+
 // Places a control at Left/Top with Width/Height, all in twips.
 void place(QWidget* control, int left, int top, int width, int height);
 void move(QWidget* control, int left, int top);

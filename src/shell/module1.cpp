@@ -10,7 +10,6 @@
 
 #include <QGuiApplication>
 #include <QPushButton>
-#include <QScreen>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -26,8 +25,6 @@ constexpr int kCheckLeft = 4014;
 constexpr int kHintLeft = 5961;
 constexpr int kExitLeft = 7910;
 constexpr int kPanelLeft = 1300;
-constexpr int kActivityWidth = 9600;
-constexpr int kActivityHeight = 7200;
 constexpr int kActivityScaleWidth = 9480;
 constexpr int kActivityScaleHeight = 6510;
 constexpr int kDefaultQuestions = 20;
@@ -59,7 +56,7 @@ void setupform(ActivityForm& form)
     form.cmdhint->setToolTip(QStringLiteral("Get Some Help"));
     form.cmdprint->setText(QStringLiteral("Print A Worksheet"));
 
-    form.setDesignSize(kActivityWidth, kActivityHeight);
+    form.setDesignSize(Form::kScreenWidthTwips, Form::kScreenHeightTwips);
     form.setScaleSize(kActivityScaleWidth, kActivityScaleHeight);
     centreform(form);
     questions = kDefaultQuestions;
@@ -67,16 +64,15 @@ void setupform(ActivityForm& form)
 
 void centreform(Form& form)
 {
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const QRect display = screen ? screen->geometry() : QRect(0, 0, 1024, 768);
+    const QRect display = Twips::display();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const double displayWidth = Twips::fromPixels(display.width());
-    const double displayHeight = Twips::fromPixels(display.height());
+    const double displayWidth = display.width();
+    const double displayHeight = display.height();
     const double width = form.designWidth() > 0 ? form.designWidth() : Twips::fromPixels(form.frameGeometry().width());
     const double height = form.designHeight() > 0 ? form.designHeight() : Twips::fromPixels(form.frameGeometry().height());
     const int top = static_cast<int>(std::lround(displayHeight / 2 - height / 2));
     const int left = static_cast<int>(std::lround(displayWidth / 2 - width / 2));
-    form.moveTo(left + Twips::fromPixels(display.x()), top + Twips::fromPixels(display.y()));
+    form.moveTo(display.x() + left, display.y() + top);
     QGuiApplication::restoreOverrideCursor();
 }
 

@@ -14,9 +14,7 @@
 #include <QPushButton>
 
 namespace {
-// Layout in twips.
-constexpr int kWidth = 9600;
-constexpr int kHeight = 7200;
+// The side of the animation frames, in pixels (they are drawn at that size).
 constexpr int kFrameSidePx = 256;
 
 const QColor kTitleInk(0, 58, 140);
@@ -64,7 +62,7 @@ Titlefrm::Titlefrm()
                         Twips::font(QStringLiteral("Times New Roman"), 40, true)))
 {
     setWindowTitle(QStringLiteral("Partitude"));
-    setDesignSize(kWidth, kHeight);
+    setDesignSize(kScreenWidthTwips, kScreenHeightTwips);
 
     Frame1->setObjectName(QStringLiteral("Frame1"));
     Frame1->setFrameShape(QFrame::StyledPanel);
