@@ -42,6 +42,8 @@ void registerForm(const QString& name, Factory factory)
 
 bool isRegistered(const QString& name) { return factories().contains(name); }
 
+void unregisterForm(const QString& name) { factories().remove(name); }
+
 Form* find(const QString& name)
 {
     auto it = loaded().find(name);

@@ -16,6 +16,8 @@ using Factory = std::function<Form*()>;
 // Every screen is registered once, by name, at start-up.
 void registerForm(const QString& name, Factory factory);
 bool isRegistered(const QString& name);
+// Forgets a screen (tests put stand-in screens in and take them out again).
+void unregisterForm(const QString& name);
 
 // The loaded screen of that name, or nullptr.
 Form* find(const QString& name);

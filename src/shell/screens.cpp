@@ -1,6 +1,8 @@
 #include "screens.h"
 
 #include "form1.h"
+#include "menus/activitymenu.h"
+#include "menus/comingsoon.h"
 #include "menus/year.h"
 #include "rewards/grey.h"
 #include "rewards/reward.h"
@@ -19,6 +21,13 @@ void registerScreens()
     add<Titlefrm>();
     add<Form1>();
     add<Year>();
+    add<y2Intro>();
+    add<y3Intro>();
+    add<y4Intro>();
+    add<y5Intro>();
+    add<y5Intro2>();
+    add<y6Intro>();
+    add<Comingsoon>();
     add<Grey>();
     add<Reward>();
 }

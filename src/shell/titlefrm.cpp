@@ -1,6 +1,7 @@
 #include "titlefrm.h"
 
 #include "module1.h"
+#include "publisher.h"
 #include "rewards/grey.h"
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"
@@ -56,7 +57,7 @@ Titlefrm::Titlefrm()
     , Command1(button(this, "Command1", "OK"))
     , Label3(panelLabel(Frame1, "Label3", QStringLiteral("Made by the Partitude team"),
                         Twips::font(QStringLiteral("Times New Roman"), 12, false)))
-    , Label2(panelLabel(Frame1, "Label2", QStringLiteral("Partitude Learning"),
+    , Label2(panelLabel(Frame1, "Label2", Publisher::kName,
                         Twips::font(QStringLiteral("Times New Roman"), 11, false)))
     , Label4(panelLabel(Frame1, "Label4", QStringLiteral("Partitude"),
                         Twips::font(QStringLiteral("Times New Roman"), 40, true)))

@@ -1,0 +1,72 @@
+#include "comingsoon.h"
+
+#include "runtime/forms.h"
+#include "runtime/picturebox.h"
+#include "runtime/twips.h"
+#include "shell/module1.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+constexpr int kInsideWidth = Form::kScreenWidthTwips - Form::kBorderWidthTwips;
+const QColor kPanel(255, 251, 238);
+const QColor kInk(0, 58, 140);
+} // namespace
+
+Comingsoon::Comingsoon()
+    : Form(QStringLiteral("Comingsoon"))
+    , Picture1(new PictureBox(this, QStringLiteral("Picture1")))
+    , Label1(new QLabel(this))
+    , Label2(new QLabel(QStringLiteral("This activity is still being made.\n"
+                                       "Click Goodbye and choose another one for now."),
+                        this))
+    , cmdexit(new QPushButton(QStringLiteral("Goodbye"), this))
+{
+    setDesignSize(kScreenWidthTwips, kScreenHeightTwips);
+    setBackColour(Module1::kActivityBack);
+
+    Picture1->setAutoSize(true);
+    Picture1->load(QStringLiteral("ico\\fraction.ico"));
+    Twips::move(Picture1, (kInsideWidth - Twips::fromPixels(32)) / 2, 600);
+
+    for (QLabel* label : {Label1, Label2}) {
+        label->setAlignment(Qt::AlignCenter);
+        label->setWordWrap(true);
+        label->setAutoFillBackground(true);
+        QPalette palette = label->palette();
+        palette.setColor(QPalette::Window, kPanel);
+        palette.setColor(QPalette::WindowText, kInk);
+        label->setPalette(palette);
+    }
+    Label1->setObjectName(QStringLiteral("Label1"));
+    Label1->setFont(Twips::font(QStringLiteral("Times New Roman"), 20, true));
+    Twips::place(Label1, 960, 1320, kInsideWidth - 1920, 1560);
+    Label2->setObjectName(QStringLiteral("Label2"));
+    Label2->setFont(Twips::font(QStringLiteral("Times New Roman"), 14, false));
+    Twips::place(Label2, 960, 2880, kInsideWidth - 1920, 1200);
+
+    cmdexit->setObjectName(QStringLiteral("cmdexit"));
+    cmdexit->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
+    cmdexit->setIconSize(QSize(32, 32));
+    Twips::place(cmdexit, (kInsideWidth - 2160) / 2, 4680, 2160, 840);
+    connect(cmdexit, &QPushButton::clicked, this, &Comingsoon::cmdexit_Click);
+}
+
+void Comingsoon::setActivity(const QString& title, const QString& menu)
+{
+    Label1->setText(title);
+    m_menu = menu;
+}
+
+void Comingsoon::Form_Load()
+{
+    setIconPicture(QStringLiteral("ico\\fraction.ico"));
+    setButtonPicture(cmdexit, QStringLiteral("ico\\door2.ico"));
+    Module1::centreform(*this);
+}
+
+void Comingsoon::cmdexit_Click()
+{
+    Forms::showAndUnload(m_menu, this);
+}
