@@ -115,6 +115,8 @@ QPainter& Printer::painter()
         reset();
         throw PrinterError(problem.toStdString());
     }
+    // Like a printer, the PDF page shows nothing beyond the printable area.
+    p.painter.setClipRect(QRect(0, 0, p.device->width(), p.device->height()));
     return p.painter;
 }
 

@@ -252,6 +252,9 @@ void TestPrinter::picturesLandAtTheirPlaceAndSize()
     blue.fill(QBColor(9));
     p.paintPicture(green, 1000, 1000);
     p.paintPicture(blue, 5000, 1000, 3000, 1500);
+    QImage yellow(60, 40, QImage::Format_RGB32);
+    yellow.fill(QBColor(14));
+    p.paintPicture(yellow, p.scaleWidth() - 450, 14000); // half of it beyond the printable area
     QRectF given;
     p.paintWith(QRectF(1000, 4000, 2400, 1200), [&](QPainter& painter, const QRectF& r) {
         given = r;
@@ -273,6 +276,7 @@ void TestPrinter::picturesLandAtTheirPlaceAndSize()
                qAbs(a.height() - b.height()) < 60;
     };
     QVERIFY(near(twipsBox(page, QBColor(2), 48, margin()), QRectF(1000, 1000, 900, 600)));
+    QVERIFY(near(twipsBox(page, QBColor(14), 48, margin()), QRectF(p.scaleWidth() - 450, 14000, 450, 600)));
     QVERIFY(near(twipsBox(page, QBColor(9), 48, margin()), QRectF(5000, 1000, 3000, 1500)));
     QVERIFY(near(twipsBox(page, QBColor(13), 48, margin()), QRectF(1000, 4000, 2400, 1200)));
     const Word after = findWord(pdf, "After");
