@@ -43,7 +43,14 @@ std::unique_ptr<QPagedPaintDevice> printerDevice()
 
 // An unfinished document is sent when the program ends, while the fonts
 // and the printer connection are still there.
-void endDocAtExit() { printer().endDoc(); }
+void endDocAtExit()
+{
+    try {
+        printer().endDoc();
+    } catch (const PrinterError&) {
+        // Too late to tell anyone.
+    }
+}
 
 } // namespace
 
