@@ -169,6 +169,37 @@ QImage patternImage(int colours, bool withHoles)
     return image;
 }
 
+// Every mapped colour is one of the palette's, and one input colour always
+// comes out as the same output colour, whichever picture it is in.
+QString paletteProblem(const QVector<QImage> &originals, const QVector<QImage> &mapped,
+                       const QVector<QRgb> &palette, int *worst)
+{
+    const QSet<QRgb> allowed(palette.begin(), palette.end());
+    QHash<QRgb, QRgb> seen;
+    *worst = 0;
+    for (int i = 0; i < originals.size(); ++i) {
+        for (int y = 0; y < originals[i].height(); ++y) {
+            for (int x = 0; x < originals[i].width(); ++x) {
+                const QRgb in = originals[i].pixel(x, y), got = mapped[i].pixel(x, y);
+                if (qAlpha(in) < 128) {
+                    if (qAlpha(got) != 0)
+                        return QStringLiteral("clear pixel made solid");
+                    continue;
+                }
+                if (!allowed.contains(got))
+                    return QStringLiteral("%1 is not in the palette").arg(got, 8, 16);
+                if (seen.contains(in) && seen.value(in) != got)
+                    return QStringLiteral("%1 mapped two ways").arg(in, 8, 16);
+                seen.insert(in, got);
+                *worst = std::max({*worst, std::abs(qRed(in) - qRed(got)),
+                                   std::abs(qGreen(in) - qGreen(got)),
+                                   std::abs(qBlue(in) - qBlue(got))});
+            }
+        }
+    }
+    return QString();
+}
+
 } // namespace
 
 class TestAssetFiles : public QObject
@@ -190,6 +221,8 @@ private slots:
     void gifKeepsExactColours();
     void gifReducesManyColours();
     void gifReportsFailures();
+    void sharedPaletteForFrames_data();
+    void sharedPaletteForFrames();
 };
 
 void TestAssetFiles::icons_data()
@@ -473,6 +506,54 @@ void TestAssetFiles::gifReportsFailures()
     QVERIFY(!writeGif(patternImage(4, false), dir.filePath(QStringLiteral("missing/folder/x.gif")),
                       &error));
     QVERIFY(!error.isEmpty());
+}
+
+void TestAssetFiles::sharedPaletteForFrames_data()
+{
+    QTest::addColumn<bool>("manyColours");
+    QTest::newRow("few colours, kept exactly") << false;
+    QTest::newRow("thousands of colours, one palette") << true;
+}
+
+void TestAssetFiles::sharedPaletteForFrames()
+{
+    // Three frames with see-through holes; in the first row the frames
+    // share 120 colours, in the second each has its own gradient and
+    // together they have about 2,500.
+    QFETCH(bool, manyColours);
+    QVector<QImage> frames;
+    for (int f = 0; f < 3; ++f) {
+        QImage frame = patternImage(120, true);
+        if (manyColours)
+            for (int y = 0; y < frame.height(); ++y)
+                for (int x = 0; x < frame.width(); ++x)
+                    if (qAlpha(frame.pixel(x, y)) != 0)
+                        frame.setPixel(x, y, qRgb(x * 6, y * 10, 40 + f * 60));
+        frames.append(frame);
+    }
+    const QVector<QRgb> palette = sharedPalette(frames, 255);
+    QVERIFY(palette.size() <= 255);
+    QVector<QImage> mapped;
+    for (const QImage &frame : frames)
+        mapped.append(mapToPalette(frame, palette));
+
+    int worst = 0;
+    const QString problem = paletteProblem(frames, mapped, palette, &worst);
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    if (manyColours) {
+        QVERIFY(palette.size() > 128);
+        QVERIFY2(worst <= 24, qPrintable(QString::number(worst)));
+    } else {
+        QCOMPARE(palette.size(), 120);
+        QCOMPARE(worst, 0);
+    }
+    // Each mapped frame goes through the GIF writer without further loss.
+    const QImage back = QImage::fromData(encodeGif(mapped[2]), "gif").convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(back.size(), mapped[2].size());
+    for (int y = 0; y < back.height(); ++y)
+        for (int x = 0; x < back.width(); ++x)
+            if (qAlpha(mapped[2].pixel(x, y)) != 0)
+                QCOMPARE(back.pixel(x, y), mapped[2].pixel(x, y));
 }
 
 QTEST_GUILESS_MAIN(TestAssetFiles)
