@@ -1,4 +1,5 @@
 #include "canvas.h"
+#include "gifwriter.h"
 
 #include <QDir>
 #include <QFile>
@@ -69,6 +70,20 @@ bool AssetOutput::saveBytes(const QByteArray &bytes, const QString &relativePath
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()
         || !file.commit()) {
         m_error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
+        return false;
+    }
+    recordWritten(path);
+    return true;
+}
+
+bool AssetOutput::saveGif(const QImage &image, const QString &relativePath)
+{
+    const QString path = prepareFolder(relativePath);
+    if (path.isEmpty())
+        return false;
+    QString error;
+    if (!writeGif(image, path, &error)) {
+        m_error = QStringLiteral("%1: %2").arg(path, error);
         return false;
     }
     recordWritten(path);

@@ -27,6 +27,7 @@ public:
                    const char *format, int quality = -1);
     bool saveJpeg(const QImage &image, const QString &relativePath);
     bool saveBytes(const QByteArray &bytes, const QString &relativePath);
+    bool saveGif(const QImage &image, const QString &relativePath);
 
     bool failed() const { return !m_error.isEmpty(); }
     QString error() const { return m_error; }

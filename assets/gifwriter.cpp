@@ -239,3 +239,54 @@ bool writeGif(const QImage &image, const QString &path, QString *error)
     }
     return true;
 }
+
+QVector<QRgb> sharedPalette(const QVector<QImage> &images, int colours)
+{
+    std::map<QRgb, qint64> counts;
+    for (const QImage &source : images) {
+        const QImage image = source.convertToFormat(QImage::Format_ARGB32);
+        for (int y = 0; y < image.height(); ++y) {
+            const QRgb *row = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+            for (int x = 0; x < image.width(); ++x)
+                if (qAlpha(row[x]) >= 128)
+                    ++counts[row[x] & 0xffffff];
+        }
+    }
+    QVector<QRgb> palette;
+    if (int(counts.size()) <= colours) {
+        for (const auto &entry : counts)
+            palette.append(entry.first | 0xff000000);
+        return palette;
+    }
+    std::vector<Entry> entries;
+    entries.reserve(counts.size());
+    for (const auto &entry : counts)
+        entries.push_back({entry.first, entry.second});
+    for (QRgb colour : medianCut(std::move(entries), std::max(1, colours)))
+        palette.append(colour | 0xff000000);
+    return palette;
+}
+
+QImage mapToPalette(const QImage &source, const QVector<QRgb> &palette)
+{
+    QImage image = source.convertToFormat(QImage::Format_ARGB32);
+    if (palette.isEmpty())
+        return image;
+    const std::vector<QRgb> choices(palette.begin(), palette.end());
+    std::unordered_map<QRgb, QRgb> chosen;
+    for (int y = 0; y < image.height(); ++y) {
+        QRgb *row = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(row[x]) < 128) {
+                row[x] = qRgba(0, 0, 0, 0);
+                continue;
+            }
+            const QRgb colour = row[x] & 0xffffff;
+            auto found = chosen.find(colour);
+            if (found == chosen.end())
+                found = chosen.emplace(colour, choices[nearest(choices, colour)] | 0xff000000).first;
+            row[x] = found->second;
+        }
+    }
+    return image;
+}

@@ -1,13 +1,14 @@
 // Checks the files drawassets writes into the build tree: that each one is
 // there and readable at the size the program expects, that the picture
 // sets really build up step by step, that the loops close without a jump,
-// that the sounds are valid and audible, and that the GIF writer keeps the
-// colours it is given.
+// that the sounds are valid and audible, that the logos blend into the
+// menus, and that the GIF writer keeps the colours it is given.
 #include "gifwriter.h"
 
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
+#include <QPainter>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QtEndian>
@@ -169,6 +170,51 @@ QImage patternImage(int colours, bool withHoles)
     return image;
 }
 
+// The menus' blue, which the logo bitmaps and frames sit on.
+const QColor kMenuBlue(49, 130, 212);
+
+// A frame as the menus show it: its clear pixels let the blue through.
+QImage onMenuBlue(const QImage &frame)
+{
+    QImage shown(frame.size(), QImage::Format_ARGB32);
+    shown.fill(kMenuBlue);
+    QPainter painter(&shown);
+    painter.drawImage(0, 0, frame);
+    painter.end();
+    return shown;
+}
+
+// Every mapped colour is one of the palette's, and one input colour always
+// comes out as the same output colour, whichever picture it is in.
+QString paletteProblem(const QVector<QImage> &originals, const QVector<QImage> &mapped,
+                       const QVector<QRgb> &palette, int *worst)
+{
+    const QSet<QRgb> allowed(palette.begin(), palette.end());
+    QHash<QRgb, QRgb> seen;
+    *worst = 0;
+    for (int i = 0; i < originals.size(); ++i) {
+        for (int y = 0; y < originals[i].height(); ++y) {
+            for (int x = 0; x < originals[i].width(); ++x) {
+                const QRgb in = originals[i].pixel(x, y), got = mapped[i].pixel(x, y);
+                if (qAlpha(in) < 128) {
+                    if (qAlpha(got) != 0)
+                        return QStringLiteral("clear pixel made solid");
+                    continue;
+                }
+                if (!allowed.contains(got))
+                    return QStringLiteral("%1 is not in the palette").arg(got, 8, 16);
+                if (seen.contains(in) && seen.value(in) != got)
+                    return QStringLiteral("%1 mapped two ways").arg(in, 8, 16);
+                seen.insert(in, got);
+                *worst = std::max({*worst, std::abs(qRed(in) - qRed(got)),
+                                   std::abs(qGreen(in) - qGreen(got)),
+                                   std::abs(qBlue(in) - qBlue(got))});
+            }
+        }
+    }
+    return QString();
+}
+
 } // namespace
 
 class TestAssetFiles : public QObject
@@ -190,6 +236,12 @@ private slots:
     void gifKeepsExactColours();
     void gifReducesManyColours();
     void gifReportsFailures();
+    void sharedPaletteForFrames_data();
+    void sharedPaletteForFrames();
+    void logoBitmaps_data();
+    void logoBitmaps();
+    void logoAnimation_data();
+    void logoAnimation();
 };
 
 void TestAssetFiles::icons_data()
@@ -473,6 +525,192 @@ void TestAssetFiles::gifReportsFailures()
     QVERIFY(!writeGif(patternImage(4, false), dir.filePath(QStringLiteral("missing/folder/x.gif")),
                       &error));
     QVERIFY(!error.isEmpty());
+}
+
+void TestAssetFiles::sharedPaletteForFrames_data()
+{
+    QTest::addColumn<bool>("manyColours");
+    QTest::newRow("few colours, kept exactly") << false;
+    QTest::newRow("thousands of colours, one palette") << true;
+}
+
+void TestAssetFiles::sharedPaletteForFrames()
+{
+    // Three frames with see-through holes; in the first row the frames
+    // share 120 colours, in the second each has its own gradient and
+    // together they have about 2,500.
+    QFETCH(bool, manyColours);
+    QVector<QImage> frames;
+    for (int f = 0; f < 3; ++f) {
+        QImage frame = patternImage(120, true);
+        if (manyColours)
+            for (int y = 0; y < frame.height(); ++y)
+                for (int x = 0; x < frame.width(); ++x)
+                    if (qAlpha(frame.pixel(x, y)) != 0)
+                        frame.setPixel(x, y, qRgb(x * 6, y * 10, 40 + f * 60));
+        frames.append(frame);
+    }
+    const QVector<QRgb> palette = sharedPalette(frames, 255);
+    QVERIFY(palette.size() <= 255);
+    QVector<QImage> mapped;
+    for (const QImage &frame : frames)
+        mapped.append(mapToPalette(frame, palette));
+
+    int worst = 0;
+    const QString problem = paletteProblem(frames, mapped, palette, &worst);
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    if (manyColours) {
+        QVERIFY(palette.size() > 128);
+        QVERIFY2(worst <= 24, qPrintable(QString::number(worst)));
+    } else {
+        QCOMPARE(palette.size(), 120);
+        QCOMPARE(worst, 0);
+    }
+    // Each mapped frame goes through the GIF writer without further loss.
+    const QImage back = QImage::fromData(encodeGif(mapped[2]), "gif").convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(back.size(), mapped[2].size());
+    for (int y = 0; y < back.height(); ++y)
+        for (int x = 0; x < back.width(); ++x)
+            if (qAlpha(mapped[2].pixel(x, y)) != 0)
+                QCOMPARE(back.pixel(x, y), mapped[2].pixel(x, y));
+}
+
+void TestAssetFiles::logoBitmaps_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("morvane2") << QStringLiteral("bmp/morvane2.bmp") << QSize(192, 72);
+    QTest::newRow("morvane3") << QStringLiteral("bmp/morvane3.bmp") << QSize(150, 56);
+}
+
+void TestAssetFiles::logoBitmaps()
+{
+    QFETCH(QString, file);
+    QFETCH(QSize, size);
+    QFile raw(assetPath(file));
+    QVERIFY2(raw.open(QIODevice::ReadOnly), qPrintable(raw.errorString()));
+    const QByteArray header = raw.read(30);
+    QVERIFY(header.startsWith("BM"));
+    QCOMPARE(qFromLittleEndian<quint16>(header.constData() + 28), quint16(24));  // bits a pixel
+
+    QImageReader reader(assetPath(file));
+    QCOMPARE(reader.format(), QByteArray("bmp"));
+    const QImage logo = reader.read().convertToFormat(QImage::Format_ARGB32);
+    QVERIFY2(!logo.isNull(), qPrintable(reader.errorString()));
+    QCOMPARE(logo.size(), size);
+
+    // Every pixel round the edge is exactly the menus' blue, so the
+    // bitmap has no visible border on them.
+    for (int x = 0; x < size.width(); ++x)
+        for (int y : {0, size.height() - 1})
+            QVERIFY2(logo.pixel(x, y) == kMenuBlue.rgb(), qPrintable(QStringLiteral("(%1,%2)").arg(x).arg(y)));
+    for (int y = 0; y < size.height(); ++y)
+        for (int x : {0, size.width() - 1})
+            QVERIFY2(logo.pixel(x, y) == kMenuBlue.rgb(), qPrintable(QStringLiteral("(%1,%2)").arg(x).arg(y)));
+
+    // Inside, a white card carries the coloured mark and the dark words.
+    int white = 0, dark = 0, bright = 0;
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x) {
+            const QColor c = QColor::fromRgb(logo.pixel(x, y));
+            white += c.red() > 245 && c.green() > 245 && c.blue() > 245;
+            dark += c.value() < 120;
+            bright += c.saturation() > 150 && c.value() > 180 && !near(c.rgb(), kMenuBlue, 30);
+        }
+    const int area = size.width() * size.height();
+    QVERIFY2(white > area / 4, qPrintable(QString::number(white)));
+    QVERIFY2(dark > area / 120, qPrintable(QString::number(dark)));
+    QVERIFY2(bright > area / 20, qPrintable(QString::number(bright)));
+
+    // The compact logo is the same picture as the large one, only smaller.
+    const QImage large = loadAsset(QStringLiteral("bmp/morvane2.bmp"))
+                             .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage plain(size, QImage::Format_ARGB32);
+    plain.fill(kMenuBlue);
+    QVERIFY2(meanDifference(large, logo) < meanDifference(plain, logo) / 4,
+             qPrintable(QStringLiteral("%1 against %2").arg(meanDifference(large, logo))
+                            .arg(meanDifference(plain, logo))));
+}
+
+void TestAssetFiles::logoAnimation_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<int>("side");
+    QTest::newRow("morv") << QStringLiteral("bmp/morv%1.gif") << 112;
+    QTest::newRow("smmv") << QStringLiteral("bmp/smmv%1.gif") << 80;
+}
+
+void TestAssetFiles::logoAnimation()
+{
+    QFETCH(QString, pattern);
+    QFETCH(int, side);
+    const QVector<QImage> frames = loadFrames(pattern, 0, 20, 4, QSize(side, side));
+    QCOMPARE(frames.size(), 20);
+    QVERIFY(QImageReader(assetPath(pattern.arg(0, 4, 10, QLatin1Char('0')))).format() == "gif");
+
+    QVector<QImage> shown;
+    for (int i = 0; i < frames.size(); ++i) {
+        const QImage &frame = frames[i];
+        // The corners are clear; the round mark fills much of the square.
+        for (const QPoint &corner : {QPoint(0, 0), QPoint(side - 1, 0), QPoint(0, side - 1),
+                                     QPoint(side - 1, side - 1), QPoint(4, 4)})
+            QCOMPARE(qAlpha(frame.pixel(corner)), 0);
+        int solid = 0;
+        for (int y = 0; y < side; ++y)
+            for (int x = 0; x < side; ++x) {
+                const QRgb c = frame.pixel(x, y);
+                if (qAlpha(c) == 0)
+                    continue;
+                ++solid;
+                // A solid pixel beside a clear one is the mark's soft edge,
+                // already mixed with the menus' blue: dark blue, never the
+                // grey or pale fringe of an edge mixed with black or white.
+                const bool edge = (x > 0 && qAlpha(frame.pixel(x - 1, y)) == 0)
+                                  || (x + 1 < side && qAlpha(frame.pixel(x + 1, y)) == 0)
+                                  || (y > 0 && qAlpha(frame.pixel(x, y - 1)) == 0)
+                                  || (y + 1 < side && qAlpha(frame.pixel(x, y + 1)) == 0);
+                if (edge && (qRed(c) > 70 || qBlue(c) - qRed(c) < 60))
+                    QFAIL(qPrintable(QStringLiteral("frame %1 (%2,%3) edge colour %4")
+                                         .arg(i).arg(x).arg(y).arg(c, 8, 16)));
+            }
+        const int area = side * side;
+        QVERIFY2(solid > area / 2 && solid < area * 9 / 10,
+                 qPrintable(QStringLiteral("frame %1: %2 solid pixels").arg(i).arg(solid)));
+        shown.append(onMenuBlue(frame));
+    }
+
+    // It turns: every step, 19 to 0 included, is a visible change of about
+    // the same size, and half a loop away the picture is far more changed.
+    double smallest = 1e9, largest = 0;
+    for (int i = 0; i < 20; ++i) {
+        const QImage &a = shown[i];
+        const QImage &b = shown[(i + 1) % 20];
+        QVERIFY2(changedPixels(a, b, 30) > side * side / 40,
+                 qPrintable(QStringLiteral("frame %1 to the next hardly changes").arg(i)));
+        if (i < 19) {
+            smallest = std::min(smallest, meanDifference(a, b));
+            largest = std::max(largest, meanDifference(a, b));
+        }
+    }
+    const double wrap = meanDifference(shown[19], shown[0]);
+    QVERIFY2(wrap <= largest * 1.3 && wrap >= smallest * 0.7,
+             qPrintable(QStringLiteral("wrap %1, steps %2..%3").arg(wrap).arg(smallest).arg(largest)));
+    QVERIFY2(meanDifference(shown[0], shown[10]) > largest * 2,
+             qPrintable(QStringLiteral("half a loop %1, step %2")
+                            .arg(meanDifference(shown[0], shown[10])).arg(largest)));
+
+    // Both sizes are one animation in step: the menus share the frame number.
+    if (side == 80) {
+        const QVector<QImage> large =
+            loadFrames(QStringLiteral("bmp/morv%1.gif"), 0, 20, 4, QSize(112, 112));
+        QCOMPARE(large.size(), 20);
+        for (int i : {0, 7, 19}) {
+            const QImage smaller = onMenuBlue(large[i]).scaled(80, 80, Qt::IgnoreAspectRatio,
+                                                               Qt::SmoothTransformation);
+            QVERIFY2(meanDifference(smaller, shown[i]) * 2 < meanDifference(smaller, shown[(i + 10) % 20]),
+                     qPrintable(QStringLiteral("frame %1").arg(i)));
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(TestAssetFiles)
