@@ -1,5 +1,7 @@
 #include "comingsoon.h"
 
+#include "logo.h"
+
 #include "runtime/forms.h"
 #include "runtime/picturebox.h"
 #include "runtime/twips.h"
@@ -27,8 +29,9 @@ Comingsoon::Comingsoon()
     setBackColour(Module1::kActivityBack);
 
     Picture1->setAutoSize(true);
-    Picture1->load(QStringLiteral("ico\\fraction.ico"));
-    Twips::move(Picture1, (kInsideWidth - Twips::fromPixels(32)) / 2, 600);
+    Picture1->setBackColour(Module1::kActivityBack);
+    Picture1->load(Logo::frameFile(Logo::Frames::Large, 0));
+    Twips::move(Picture1, (kInsideWidth - Twips::fromPixels(Picture1->width())) / 2, 240);
 
     for (QLabel* label : {Label1, Label2}) {
         label->setAlignment(Qt::AlignCenter);
@@ -41,15 +44,15 @@ Comingsoon::Comingsoon()
     }
     Label1->setObjectName(QStringLiteral("Label1"));
     Label1->setFont(Twips::font(QStringLiteral("Times New Roman"), 20, true));
-    Twips::place(Label1, 960, 1320, kInsideWidth - 1920, 1560);
+    Twips::place(Label1, 960, 2100, kInsideWidth - 1920, 1260);
     Label2->setObjectName(QStringLiteral("Label2"));
     Label2->setFont(Twips::font(QStringLiteral("Times New Roman"), 14, false));
-    Twips::place(Label2, 960, 2880, kInsideWidth - 1920, 1200);
+    Twips::place(Label2, 960, 3360, kInsideWidth - 1920, 1020);
 
     cmdexit->setObjectName(QStringLiteral("cmdexit"));
     cmdexit->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
     cmdexit->setIconSize(QSize(32, 32));
-    Twips::place(cmdexit, (kInsideWidth - 2160) / 2, 4680, 2160, 840);
+    Twips::place(cmdexit, (kInsideWidth - 2160) / 2, 4920, 2160, 840);
     connect(cmdexit, &QPushButton::clicked, this, &Comingsoon::cmdexit_Click);
 }
 
