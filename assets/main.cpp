@@ -36,6 +36,7 @@ int main(int argc, char *argv[])
         {"icons", drawIcons},          {"title frames", drawTitleFrames},
         {"reward pictures", drawRewardSets}, {"stars", drawStarSeries},
         {"harp sounds", writeHarpSounds},
+        {"celebrations", drawCelebrations},
     };
     for (const auto &family : families) {
         family.draw(out);
