@@ -102,6 +102,23 @@ int offBluePixels(const QImage &image, const QRect &area, int tolerance)
     return off;
 }
 
+// Strongly coloured pixels inside `area`, counted in twelve bands of hue
+// 30 degrees wide (band 1 is orange to gold), leaving out the screen's blue.
+QVector<int> hueBands(const QImage &image, const QRect &area)
+{
+    QVector<int> bands(12, 0);
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const QColor c = QColor::fromRgb(image.pixel(x, y)).toHsv();
+            if (c.hsvSaturation() < 110 || c.value() < 120 || c.hsvHue() < 0)
+                continue;
+            if (c.hsvHue() >= 195 && c.hsvHue() <= 225)
+                continue;
+            ++bands[c.hsvHue() / 30];
+        }
+    return bands;
+}
+
 QVector<QImage> loadFrames(const QString &pattern, int first, int count, int digits,
                            const QSize &size)
 {
@@ -202,6 +219,8 @@ private slots:
     void celebrationFrameNames();
     void celebrations_data();
     void celebrations();
+    void celebrationColours_data();
+    void celebrationColours();
     void harpSounds_data();
     void harpSounds();
     void harpSoundsAreDifferent();
@@ -456,6 +475,42 @@ void TestAssetFiles::celebrations()
     const Celebration &next = kCelebrations[(index + 1) % kCelebrationCount];
     const QImage other(Pictures::resolve(celebrationFrameFile(next, 0)));
     QVERIFY(changedPixels(frames[0], other.convertToFormat(QImage::Format_ARGB32)) > 3000);
+}
+
+void TestAssetFiles::celebrationColours_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QRect>("middle");
+    QTest::addColumn<int>("goldPercent");
+    QTest::addColumn<int>("colours");
+    // The star's and the cup's middles are gold; the fireworks and the
+    // balloons come in many colours.
+    QTest::newRow("great star") << 0 << QRect(80, 60, 40, 40) << 60 << 1;
+    QTest::newRow("fireworks") << 1 << QRect(0, 0, 200, 150) << 0 << 3;
+    QTest::newRow("balloons") << 2 << QRect(0, 0, 200, 150) << 0 << 6;
+    QTest::newRow("trophy, with its red star") << 3 << QRect(76, 40, 48, 36) << 45 << 2;
+}
+
+void TestAssetFiles::celebrationColours()
+{
+    QFETCH(int, index);
+    QFETCH(QRect, middle);
+    QFETCH(int, goldPercent);
+    QFETCH(int, colours);
+    const Celebration &celebration = kCelebrations[index];
+    Pictures::setAssetFolder(QStringLiteral(PARTITUDE_TEST_ASSETS));
+    for (int f = 0; f < celebration.frames; ++f) {
+        const QImage frame(Pictures::resolve(celebrationFrameFile(celebration, f)));
+        QVERIFY(!frame.isNull());
+        const QVector<int> bands = hueBands(frame, middle);
+        const int gold = bands[1];
+        const int area = middle.width() * middle.height();
+        const int seen = int(std::count_if(bands.begin(), bands.end(), [](int n) { return n >= 40; }));
+        QVERIFY2(gold * 100 >= goldPercent * area,
+                 qPrintable(QStringLiteral("frame %1: %2 gold pixels of %3").arg(f).arg(gold).arg(area)));
+        QVERIFY2(seen >= colours,
+                 qPrintable(QStringLiteral("frame %1 shows %2 colours").arg(f).arg(seen)));
+    }
 }
 
 void TestAssetFiles::harpSounds_data()
