@@ -9,3 +9,4 @@ void drawRewardSets(AssetOutput &out);   // jpg2/<set>00.jpg .. <set>20.jpg
 void drawStarSeries(AssetOutput &out);   // reward/stars000.jpg .. stars319.jpg
 void writeHarpSounds(AssetOutput &out);  // wav/harp1.wav .. harp5.wav
 void drawLogos(AssetOutput &out);        // bmp/morvane2.bmp, morvane3.bmp, morv0000.gif .. 0019, smmv0000.gif .. 0019
+void drawCelebrations(AssetOutput &out); // gif/grstel/grstel00.jpg .. and the rest of the list

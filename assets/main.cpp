@@ -37,6 +37,7 @@ int main(int argc, char *argv[])
         {"reward pictures", drawRewardSets}, {"stars", drawStarSeries},
         {"harp sounds", writeHarpSounds},
         {"publisher's logo", drawLogos},
+        {"celebrations", drawCelebrations},
     };
     for (const auto &family : families) {
         family.draw(out);

@@ -1,11 +1,16 @@
 // Checks the files drawassets writes into the build tree: that each one is
 // there and readable at the size the program expects, that the picture
 // sets really build up step by step, that the loops close without a jump,
-// that the sounds are valid and audible, that the logos blend into the
-// menus, and that the GIF writer keeps the colours it is given.
+// that the certificate's celebrations are exactly the frames the program
+// lists, that the sounds are valid and audible, that the logos blend into
+// the menus, and that the GIF writer keeps the colours it is given.
 #include "gifwriter.h"
+#include "rewards/celebrations.h"
+#include "runtime/pictures.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 #include <QPainter>
@@ -86,6 +91,33 @@ double blueBorderShare(const QImage &image)
         }
     }
     return double(matching) / total;
+}
+
+// Pixels inside `area` whose colour is more than `tolerance` from the screen's blue.
+int offBluePixels(const QImage &image, const QRect &area, int tolerance)
+{
+    int off = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            off += !near(image.pixel(x, y), QColor(48, 133, 214), tolerance);
+    return off;
+}
+
+// Strongly coloured pixels inside `area`, counted in twelve bands of hue
+// 30 degrees wide (band 1 is orange to gold), leaving out the screen's blue.
+QVector<int> hueBands(const QImage &image, const QRect &area)
+{
+    QVector<int> bands(12, 0);
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const QColor c = QColor::fromRgb(image.pixel(x, y)).toHsv();
+            if (c.hsvSaturation() < 110 || c.value() < 120 || c.hsvHue() < 0)
+                continue;
+            if (c.hsvHue() >= 195 && c.hsvHue() <= 225)
+                continue;
+            ++bands[c.hsvHue() / 30];
+        }
+    return bands;
 }
 
 QVector<QImage> loadFrames(const QString &pattern, int first, int count, int digits,
@@ -229,6 +261,12 @@ private slots:
     void rewardSets();
     void starSeries_data();
     void starSeries();
+    void celebrationFrameNames_data();
+    void celebrationFrameNames();
+    void celebrations_data();
+    void celebrations();
+    void celebrationColours_data();
+    void celebrationColours();
     void harpSounds_data();
     void harpSounds();
     void harpSoundsAreDifferent();
@@ -391,6 +429,140 @@ void TestAssetFiles::starSeries()
     // Each series is its own animation.
     const QImage other = loadAsset(QStringLiteral("reward/stars%1%2.jpg").arg((series + 1) % 4).arg(0, 2, 10, QLatin1Char('0')));
     QVERIFY(changedPixels(frames[0], other) > 2000);
+}
+
+void TestAssetFiles::celebrationFrameNames_data()
+{
+    QTest::addColumn<int>("celebration");
+    QTest::addColumn<int>("frame");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("first") << 0 << 0 << QStringLiteral("gif\\grstel\\grstel00.jpg");
+    QTest::newRow("last one-digit") << 0 << 9 << QStringLiteral("gif\\grstel\\grstel09.jpg");
+    QTest::newRow("first two-digit") << 1 << 10 << QStringLiteral("gif\\firewk\\firewk10.jpg");
+    QTest::newRow("last") << 1 << 23 << QStringLiteral("gif\\firewk\\firewk23.jpg");
+    QTest::newRow("balloon") << 2 << 7 << QStringLiteral("gif\\balloon\\balloon07.jpg");
+    QTest::newRow("trophy") << 3 << 15 << QStringLiteral("gif\\trophy\\trophy15.jpg");
+}
+
+void TestAssetFiles::celebrationFrameNames()
+{
+    QFETCH(int, celebration);
+    QFETCH(int, frame);
+    QFETCH(QString, file);
+    QCOMPARE(celebrationFrameFile(kCelebrations[celebration], frame), file);
+}
+
+void TestAssetFiles::celebrations_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < kCelebrationCount; ++i)
+        QTest::newRow(kCelebrations[i].base) << i;
+}
+
+void TestAssetFiles::celebrations()
+{
+    QFETCH(int, index);
+    const Celebration &celebration = kCelebrations[index];
+    const int count = celebration.frames;
+    Pictures::setAssetFolder(QStringLiteral(PARTITUDE_TEST_ASSETS));
+
+    // Every listed frame is where the program looks for it, and nothing more:
+    // the folder holds exactly the listed frames.
+    QVector<QImage> frames;
+    for (int f = 0; f < count; ++f) {
+        const QString file = Pictures::resolve(celebrationFrameFile(celebration, f));
+        QImageReader reader(file);
+        QCOMPARE(reader.format(), QByteArray("jpeg"));
+        const QImage frame = reader.read().convertToFormat(QImage::Format_ARGB32);
+        QVERIFY2(!frame.isNull(), qPrintable(file + QStringLiteral(": ") + reader.errorString()));
+        QCOMPARE(frame.size(), QSize(kCelebrationWidth, kCelebrationHeight));
+        frames.append(frame);
+    }
+    const QFileInfo first(Pictures::resolve(celebrationFrameFile(celebration, 0)));
+    const QString name = first.fileName().chopped(6);  // "grstel" of "grstel00.jpg"
+    const QStringList inFolder =
+        first.dir().entryList({name + QStringLiteral("*")}, QDir::Files);
+    QCOMPARE(inFolder.size(), count);
+
+    // Shown on the certificate's blue with no frame round it: the sides and
+    // corners are that blue (balloons and rockets may cross the top and
+    // bottom), and there is plenty to see inside.
+    const int w = kCelebrationWidth, h = kCelebrationHeight;
+    int leastDrawn = w * h;
+    for (int f = 0; f < count; ++f) {
+        const QImage &frame = frames[f];
+        const double edge = blueBorderShare(frame);
+        QVERIFY2(edge > 0.75, qPrintable(QStringLiteral("frame %1: edge %2 blue").arg(f).arg(edge)));
+        for (const QRect &side : {QRect(0, 0, 1, h), QRect(w - 1, 0, 1, h)})
+            QVERIFY2(offBluePixels(frame, side, 12) == 0,
+                     qPrintable(QStringLiteral("frame %1: side at x=%2 is not the blue").arg(f).arg(side.x())));
+        for (const QPoint &corner : {QPoint(0, 0), QPoint(w - 4, 0), QPoint(0, h - 4), QPoint(w - 4, h - 4)})
+            QVERIFY2(offBluePixels(frame, QRect(corner, QSize(4, 4)), 8) == 0,
+                     qPrintable(QStringLiteral("frame %1: corner %2,%3 is not the blue")
+                                    .arg(f).arg(corner.x()).arg(corner.y())));
+        leastDrawn = std::min(leastDrawn, offBluePixels(frame, frame.rect(), 48));
+    }
+    QVERIFY2(leastDrawn > w * h / 20,
+             qPrintable(QStringLiteral("a frame shows only %1 pixels").arg(leastDrawn)));
+
+    // Played round and round: every step, last to first included, is a
+    // visible change of about the same size.
+    double smallest = 1e9, largest = 0;
+    for (int f = 0; f < count; ++f) {
+        const QImage &a = frames[f];
+        const QImage &b = frames[(f + 1) % count];
+        const int changed = changedPixels(a, b, 30);
+        QVERIFY2(changed > 150,
+                 qPrintable(QStringLiteral("frame %1 to the next changes %2 pixels").arg(f).arg(changed)));
+        if (f + 1 < count) {
+            smallest = std::min(smallest, meanDifference(a, b));
+            largest = std::max(largest, meanDifference(a, b));
+        }
+    }
+    const double wrap = meanDifference(frames[count - 1], frames[0]);
+    QVERIFY2(wrap <= largest * 1.3 && wrap >= smallest * 0.7,
+             qPrintable(QStringLiteral("wrap %1, steps %2..%3").arg(wrap).arg(smallest).arg(largest)));
+
+    // Each animation is a picture of its own.
+    const Celebration &next = kCelebrations[(index + 1) % kCelebrationCount];
+    const QImage other(Pictures::resolve(celebrationFrameFile(next, 0)));
+    QVERIFY(changedPixels(frames[0], other.convertToFormat(QImage::Format_ARGB32)) > 3000);
+}
+
+void TestAssetFiles::celebrationColours_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QRect>("middle");
+    QTest::addColumn<int>("goldPercent");
+    QTest::addColumn<int>("colours");
+    // The star's and the cup's middles are gold; the fireworks and the
+    // balloons come in many colours.
+    QTest::newRow("great star") << 0 << QRect(80, 60, 40, 40) << 60 << 1;
+    QTest::newRow("fireworks") << 1 << QRect(0, 0, 200, 150) << 0 << 3;
+    QTest::newRow("balloons") << 2 << QRect(0, 0, 200, 150) << 0 << 6;
+    QTest::newRow("trophy, with its red star") << 3 << QRect(76, 40, 48, 36) << 45 << 2;
+}
+
+void TestAssetFiles::celebrationColours()
+{
+    QFETCH(int, index);
+    QFETCH(QRect, middle);
+    QFETCH(int, goldPercent);
+    QFETCH(int, colours);
+    const Celebration &celebration = kCelebrations[index];
+    Pictures::setAssetFolder(QStringLiteral(PARTITUDE_TEST_ASSETS));
+    for (int f = 0; f < celebration.frames; ++f) {
+        const QImage frame(Pictures::resolve(celebrationFrameFile(celebration, f)));
+        QVERIFY(!frame.isNull());
+        const QVector<int> bands = hueBands(frame, middle);
+        const int gold = bands[1];
+        const int area = middle.width() * middle.height();
+        const int seen = int(std::count_if(bands.begin(), bands.end(), [](int n) { return n >= 40; }));
+        QVERIFY2(gold * 100 >= goldPercent * area,
+                 qPrintable(QStringLiteral("frame %1: %2 gold pixels of %3").arg(f).arg(gold).arg(area)));
+        QVERIFY2(seen >= colours,
+                 qPrintable(QStringLiteral("frame %1 shows %2 colours").arg(f).arg(seen)));
+    }
 }
 
 void TestAssetFiles::harpSounds_data()
