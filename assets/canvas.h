@@ -27,6 +27,8 @@ public:
                    const char *format, int quality = -1);
     bool saveJpeg(const QImage &image, const QString &relativePath);
     bool saveBytes(const QByteArray &bytes, const QString &relativePath);
+    // Stops the output with a drawing's own failure.
+    void fail(const QString &message) { if (!failed()) m_error = message; }
 
     bool failed() const { return !m_error.isEmpty(); }
     QString error() const { return m_error; }

@@ -8,3 +8,4 @@ void drawTitleFrames(AssetOutput &out);  // gif/sphfra/sphf0000.jpg .. sphf0049.
 void drawRewardSets(AssetOutput &out);   // jpg2/<set>00.jpg .. <set>20.jpg
 void drawStarSeries(AssetOutput &out);   // reward/stars000.jpg .. stars319.jpg
 void writeHarpSounds(AssetOutput &out);  // wav/harp1.wav .. harp5.wav
+void drawWorksheets(AssetOutput &out);   // wmf/y2print1.wmf, u1print1, y5print4, u4print4, y6print3, u5print3

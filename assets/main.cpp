@@ -35,7 +35,7 @@ int main(int argc, char *argv[])
     } families[] = {
         {"icons", drawIcons},          {"title frames", drawTitleFrames},
         {"reward pictures", drawRewardSets}, {"stars", drawStarSeries},
-        {"harp sounds", writeHarpSounds},
+        {"harp sounds", writeHarpSounds}, {"worksheets", drawWorksheets},
     };
     for (const auto &family : families) {
         family.draw(out);
