@@ -28,6 +28,8 @@ public:
     bool saveJpeg(const QImage &image, const QString &relativePath);
     bool saveBytes(const QByteArray &bytes, const QString &relativePath);
     bool saveGif(const QImage &image, const QString &relativePath);
+    // Stops the output with a drawing's own failure.
+    void fail(const QString &message) { if (!failed()) m_error = message; }
 
     bool failed() const { return !m_error.isEmpty(); }
     QString error() const { return m_error; }

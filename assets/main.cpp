@@ -38,6 +38,7 @@ int main(int argc, char *argv[])
         {"harp sounds", writeHarpSounds},
         {"publisher's logo", drawLogos},
         {"celebrations", drawCelebrations},
+        {"worksheets", drawWorksheets},
     };
     for (const auto &family : families) {
         family.draw(out);
