@@ -21,23 +21,24 @@ namespace {
 constexpr int kPdfDpi = 1200;
 constexpr double kPdfMarginInches = 0.25;
 
-std::unique_ptr<QPagedPaintDevice> pdfDevice(const QString& file)
+std::unique_ptr<QPagedPaintDevice> pdfDevice(const QString& file, QPageLayout::Orientation orientation)
 {
     auto pdf = std::make_unique<QPdfWriter>(file);
     pdf->setResolution(kPdfDpi);
     pdf->setCreator(QStringLiteral("Partitude"));
     const QMarginsF margins(kPdfMarginInches, kPdfMarginInches, kPdfMarginInches, kPdfMarginInches);
-    pdf->setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, margins, QPageLayout::Inch));
+    pdf->setPageLayout(QPageLayout(QPageSize(QPageSize::A4), orientation, margins, QPageLayout::Inch));
     return pdf;
 }
 
-std::unique_ptr<QPagedPaintDevice> printerDevice()
+std::unique_ptr<QPagedPaintDevice> printerDevice(QPageLayout::Orientation orientation)
 {
     auto device = std::make_unique<QPrinter>(QPrinter::HighResolution);
     // Without a printer Qt quietly falls back to writing a PDF file.
     if (device->outputFormat() != QPrinter::NativeFormat || device->printerName().isEmpty())
         throw PrinterError("No printer is installed.");
     device->setDocName(QStringLiteral("Partitude"));
+    device->setPageOrientation(orientation);
     return device;
 }
 
@@ -92,12 +93,13 @@ Printer::Page& Printer::page()
         endsAtExit = true;
     }
     auto page = std::make_unique<Page>();
+    const auto orientation = Orientation == Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
     try {
         if (PrintTarget::printsToPdf()) {
             page->pdfFile = PrintTarget::nextPdfFile();
-            page->device = pdfDevice(page->pdfFile);
+            page->device = pdfDevice(page->pdfFile, orientation);
         } else {
-            page->device = printerDevice();
+            page->device = printerDevice(orientation);
         }
     } catch (const PrinterError&) {
         reset();
@@ -233,8 +235,13 @@ void Printer::paintWith(const QRectF& twipsRect, const Drawing& draw)
 
 void Printer::endDoc()
 {
-    const bool sent = !documentOpen() || m_page->painter.end();
+    const bool open = documentOpen();
+    const bool sent = !open || m_page->painter.end();
+    const auto* onPrinter = open ? dynamic_cast<const QPrinter*>(m_page->device.get()) : nullptr;
+    const bool aborted = onPrinter && onPrinter->printerState() == QPrinter::Aborted;
     reset();
+    if (aborted)
+        throw PrintCancelled("The printer stopped the job.");
     if (!sent)
         throw PrinterError("The page could not be sent to the printer.");
 }

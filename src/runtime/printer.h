@@ -32,6 +32,12 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// The printer (or the person at it) stopped the job before it was done.
+class PrintCancelled : public PrinterError {
+public:
+    using PrinterError::PrinterError;
+};
+
 // The 16 colours of the classic palette: 0 black, 1 blue, 2 green, 3 cyan,
 // 4 red, 5 magenta, 6 brown, 7 light grey, 8 grey, 9 light blue, 10 light
 // green, 11 light cyan, 12 light red, 13 light magenta, 14 yellow, 15 bright
@@ -50,6 +56,9 @@ public:
     // Line width in screen pixels of 15 twips, so that a line is as heavy on
     // paper as on the screen.
     int DrawWidth = 1;
+    // The way up of the paper, read when a document's page is set up.
+    enum PageOrientation { Portrait = 1, Landscape = 2 };
+    PageOrientation Orientation = Portrait;
 
     Printer();
     ~Printer();

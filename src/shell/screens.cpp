@@ -6,6 +6,7 @@
 #include "menus/year.h"
 #include "rewards/grey.h"
 #include "rewards/reward.h"
+#include "rewards/welldone.h"
 #include "runtime/forms.h"
 #include "titlefrm.h"
 
@@ -30,4 +31,5 @@ void registerScreens()
     add<Comingsoon>();
     add<Grey>();
     add<Reward>();
+    add<Welldone>();
 }

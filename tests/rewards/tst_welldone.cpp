@@ -1,0 +1,230 @@
+#include "pdfsupport.h"
+#include "rewards/celebrations.h"
+#include "rewards/welldone.h"
+#include "runtime/formtimer.h"
+#include "runtime/picturebox.h"
+#include "runtime/printer.h"
+#include "testsupport.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QtTest>
+
+using namespace Module1;
+
+class TestWelldone : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup() { PrintTarget::setPdfFolder(QString()); }
+    void loadStepsFollowTheRun_data();
+    void loadStepsFollowTheRun();
+    void certificateReadsRight_data();
+    void certificateReadsRight();
+    void enterPrintsOncePerShowing();
+    void aPageThatCannotOpenIsTold();
+    void leavingArmsTheChallenge();
+    void celebrationLoopsItsFrames();
+
+private:
+    Welldone* showWelldone(int challengeState);
+    TestSupport::World world;
+    std::unique_ptr<QTemporaryDir> pdfs;
+};
+
+void TestWelldone::init()
+{
+    world.fresh();
+    pdfs = std::make_unique<QTemporaryDir>();
+    PrintTarget::setPdfFolder(pdfs->path());
+    activitytitle = QStringLiteral("Halves and Quarters 1");
+    yearlabel = QStringLiteral("Year 2");
+}
+
+Welldone* TestWelldone::showWelldone(int challengeState)
+{
+    challenge = challengeState;
+    showwelldone(QString());
+    return Forms::find<Welldone>();
+}
+
+void TestWelldone::loadStepsFollowTheRun_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<bool>("celebrates");
+    QTest::newRow("practice") << 0 << "Excellent work you have completed this task successfully" << false;
+    QTest::newRow("challenge") << 1 << "Congratulations!!! You have risen to the Challenge." << true;
+    QTest::newRow("challenge after a retry") << 2 << "Congratulations!!! You have risen to the Challenge." << true;
+}
+
+void TestWelldone::loadStepsFollowTheRun()
+{
+    QFETCH(int, state);
+    QFETCH(QString, words);
+    QFETCH(bool, celebrates);
+    counter = 17;
+    streak = 20;
+    questions = 10;
+    Welldone* form = showWelldone(state);
+    QVERIFY(form && form->isVisible());
+    QCOMPARE(form->windowTitle(), QStringLiteral("Well Done!"));
+    QCOMPARE(counter, 0);
+    QCOMPARE(questions, 20);
+    QCOMPARE(form->Label1->text(), words);
+    QCOMPARE(form->Label2->text(), QStringLiteral("Enter your name in the box above before printing your certificate"));
+    QCOMPARE(form->Command2->text(), QStringLiteral("Print Certificate"));
+    QCOMPARE(form->Timer1->isEnabled(), celebrates);
+    QVERIFY(form->Timer4->isEnabled());
+    QCOMPARE(form->iconPath(), QStringLiteral("ico\\fraction.ico"));
+    QCOMPARE(form->cmdexit->property("picturePath").toString(), QStringLiteral("ico\\door2.ico"));
+}
+
+void TestWelldone::certificateReadsRight_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("headline");
+    QTest::addColumn<QString>("sentence");
+    QTest::newRow("practice") << 0 << "Amelia Jones" << "Excellent!" << "you have completed the work successfully";
+    QTest::newRow("challenge") << 1 << "Tom" << "Congratulations!!!" << "you have risen to the Challenge";
+    QTest::newRow("challenge again") << 2 << "Priya" << "Congratulations!!!" << "you have risen to the Challenge";
+    QTest::newRow("no name") << 0 << "" << "Excellent!" << "you have completed the work successfully";
+}
+
+void TestWelldone::certificateReadsRight()
+{
+    QFETCH(int, state);
+    QFETCH(QString, name);
+    QFETCH(QString, headline);
+    QFETCH(QString, sentence);
+    if (!PdfSupport::missingTool().isEmpty())
+        QSKIP("poppler-utils is not installed");
+    Welldone* form = showWelldone(state);
+    form->Text1->setText(name);
+    form->Command2->click();
+    QVERIFY(world.messages.isEmpty());
+    QCOMPARE(challenge, state); // printing leaves the run's state alone
+
+    const QStringList pdfFiles = PdfSupport::files(pdfs->path());
+    QCOMPARE(pdfFiles.size(), 1);
+    const QStringList lines = PdfSupport::lines(pdfFiles[0]);
+    const QString all = lines.join(QLatin1Char('\n'));
+    QVERIFY2(all.count(QStringLiteral("Well Done")) == 8, qPrintable(all));
+    const int product = lines.indexOf(QStringLiteral("Partitude"));
+    const int title = lines.indexOf(QStringLiteral("Halves and Quarters 1"));
+    const int head = lines.indexOf(headline);
+    const int said = lines.indexOf(sentence);
+    QVERIFY2(product >= 0 && title > product && head > title && said > head, qPrintable(all));
+    if (name.isEmpty()) {
+        QCOMPARE(said - head, 2); // the rule under the empty name, then the sentence
+    } else {
+        const int child = lines.indexOf(name);
+        QVERIFY(child > head && child < said);
+    }
+    QVERIFY(all.contains(QStringLiteral("Year 2")));
+    QVERIFY(!all.contains(state == 0 ? QStringLiteral("Congratulations") : QStringLiteral("Excellent")));
+
+    // A landscape page with the words centred and the frame drawn in black.
+    const QList<PdfSupport::Word> words = PdfSupport::words(pdfFiles[0]);
+    for (const PdfSupport::Word& w : words) {
+        if (w.text == QLatin1String("Partitude"))
+            QVERIFY(qAbs(w.box.center().x() - PdfSupport::kPageHeightPt / 2) < 4);
+    }
+    const QImage page = PdfSupport::render(pdfFiles[0], 40);
+    QVERIFY(page.width() > page.height());
+    QCOMPARE(QColor(page.pixel(page.width() / 2, 10)), QColor(Qt::white));
+}
+
+void TestWelldone::enterPrintsOncePerShowing()
+{
+    Welldone* form = showWelldone(1);
+    form->Text1->setText(QStringLiteral("Sam"));
+    QTest::keyClick(form->Text1, Qt::Key_A);
+    QCOMPARE(form->Text1->text(), QStringLiteral("Sama"));
+    QCOMPARE(PdfSupport::files(pdfs->path()).size(), 0);
+    QTest::keyClick(form->Text1, Qt::Key_Return);
+    QCOMPARE(PdfSupport::files(pdfs->path()).size(), 1);
+    QVERIFY(!form->Command2->isEnabled());
+    QTest::keyClick(form->Text1, Qt::Key_Enter);
+    form->Command2->click();
+    QCOMPARE(PdfSupport::files(pdfs->path()).size(), 1);
+
+    // A new showing may print again.
+    showWelldone(1)->Command2->click();
+    QCOMPARE(PdfSupport::files(pdfs->path()).size(), 2);
+}
+
+void TestWelldone::aPageThatCannotOpenIsTold()
+{
+    // The "folder" is a file, so no PDF can be written there.
+    const QString blocked = pdfs->filePath(QStringLiteral("blocked"));
+    TestSupport::writeBytes(blocked, "not a folder");
+    PrintTarget::setPdfFolder(blocked);
+    Welldone* form = showWelldone(0);
+    form->Command2->click();
+    QCOMPARE(world.messages.size(), 1);
+    QCOMPARE(world.messages[0].text, QStringLiteral("There was a problem printing to your printer."));
+    QCOMPARE(world.messages[0].buttons, MsgBox::Buttons::Ok);
+    QVERIFY(!form->Command2->isEnabled());
+    QVERIFY(form->isVisible());
+
+    // The printer tries afresh for the next certificate.
+    PrintTarget::setPdfFolder(pdfs->path());
+    showWelldone(0)->Command2->click();
+    QCOMPARE(world.messages.size(), 1);
+    QCOMPARE(PdfSupport::files(pdfs->path()).size(), 1);
+}
+
+void TestWelldone::leavingArmsTheChallenge()
+{
+    Welldone* form = showWelldone(0);
+    form->cmdexit->click();
+    TestSupport::flushUnloads();
+    QCOMPARE(challenge, 1);
+    QVERIFY(!Forms::isLoaded(QStringLiteral("Welldone")));
+
+    showWelldone(2);
+    QCloseEvent close;
+    QCoreApplication::sendEvent(Forms::find<Welldone>(), &close); // not from the window system
+    QVERIFY(Forms::isLoaded(QStringLiteral("Welldone")));
+    Forms::find<Welldone>()->cmdexit_Click();
+    QCOMPARE(challenge, 1);
+    QVERIFY(!Forms::programEnded());
+}
+
+void TestWelldone::celebrationLoopsItsFrames()
+{
+    Welldone* form = showWelldone(1);
+    form->Timer1_Timer();
+    QVERIFY(!form->Timer1->isEnabled());
+    QVERIFY(form->Timer3->isEnabled());
+    const QString base = form->animationBase();
+    const int frames = form->animationFrames();
+    bool known = false;
+    for (const Celebration& c : kCelebrations)
+        known = known || (base == QLatin1String(c.base) && frames == c.frames);
+    QVERIFY(known);
+
+    form->Timer3_Timer();
+    QCOMPARE(form->Picture1->picturePath(), base + QStringLiteral("01.jpg"));
+    for (int i = 2; i < frames; ++i)
+        form->Timer3_Timer();
+    QCOMPARE(form->Picture1->picturePath(), base + QString::number(frames - 1) + QStringLiteral(".jpg"));
+    form->Timer3_Timer();
+    QCOMPARE(form->frame(), 0);
+    QCOMPARE(form->Picture1->picturePath(), base + QStringLiteral("00.jpg"));
+
+    // Every celebration comes up in a run of showings.
+    QSet<QString> chosen;
+    for (int i = 0; i < 60; ++i) {
+        Welldone* again = showWelldone(1);
+        again->Timer1_Timer();
+        chosen << again->animationBase();
+    }
+    QCOMPARE(chosen.size(), kCelebrationCount);
+}
+
+QTEST_MAIN(TestWelldone)
+#include "tst_welldone.moc"
