@@ -30,7 +30,10 @@ QRectF rectOf(const Box& b)
     return QRectF(QPointF(b.left, b.top), QPointF(b.right, b.bottom)).normalized();
 }
 
-QPen makePen(const Pen& d, qreal devicePixelsPerUnit)
+// Thin pens' dashes are measured in pixels of a 96-dot-per-inch screen, so
+// they keep their length on a printer; perInchScale is the device's
+// resolution over 96.
+QPen makePen(const Pen& d, qreal devicePixelsPerUnit, qreal perInchScale)
 {
     const int style = d.style & 0x0F;
     if (style == PenNull)
@@ -42,22 +45,23 @@ QPen makePen(const Pen& d, qreal devicePixelsPerUnit)
     pen.setCosmetic(thin);
     pen.setCapStyle((d.style & 0x0F00) == 0x0100 ? Qt::SquareCap : (d.style & 0x0F00) == 0x0200 ? Qt::FlatCap : Qt::RoundCap);
     pen.setJoinStyle((d.style & 0xF000) == 0x1000 ? Qt::BevelJoin : (d.style & 0xF000) == 0x2000 ? Qt::MiterJoin : Qt::RoundJoin);
-    // Thin pens get Windows' own dash lengths in pixels; wide ones scale with their width.
-    switch (style) {
-    case PenDash:
-        thin ? pen.setDashPattern({18, 6}) : pen.setStyle(Qt::DashLine);
-        break;
-    case PenDot:
-        thin ? pen.setDashPattern({3, 3}) : pen.setStyle(Qt::DotLine);
-        break;
-    case PenDashDot:
-        thin ? pen.setDashPattern({9, 6, 3, 6}) : pen.setStyle(Qt::DashDotLine);
-        break;
-    case PenDashDotDot:
-        thin ? pen.setDashPattern({9, 3, 3, 3, 3, 3}) : pen.setStyle(Qt::DashDotDotLine);
-        break;
-    default:
-        break;
+    // Thin pens get Windows' own dash lengths; wide ones scale with their width.
+    struct Dashes {
+        Qt::PenStyle wide;
+        QVector<qreal> thin;
+    };
+    static const Dashes dashes[] = {{Qt::DashLine, {18, 6}}, {Qt::DotLine, {3, 3}},
+                                    {Qt::DashDotLine, {9, 6, 3, 6}}, {Qt::DashDotDotLine, {9, 3, 3, 3, 3, 3}}};
+    if (style >= PenDash && style <= PenDashDotDot) {
+        const Dashes& dash = dashes[style - PenDash];
+        if (!thin) {
+            pen.setStyle(dash.wide);
+        } else {
+            QVector<qreal> pattern = dash.thin;
+            for (qreal& length : pattern)
+                length *= perInchScale;
+            pen.setDashPattern(pattern);
+        }
     }
     return pen;
 }
@@ -68,7 +72,7 @@ QBrush makeBrush(const Brush& d)
                                              Qt::BDiagPattern, Qt::CrossPattern, Qt::DiagCrossPattern};
     if (d.style == BrushNull)
         return Qt::NoBrush;
-    if (d.style == BrushHatched)
+    if (d.style == BrushHatched) // hatch lines are 8 device pixels apart, as on Windows
         return QBrush(d.colour, d.hatch >= 0 && d.hatch < 6 ? hatches[d.hatch] : Qt::SolidPattern);
     return QBrush(d.colour); // bitmap patterns are drawn in their brush's colour
 }
@@ -108,7 +112,8 @@ struct State {
 class Player {
 public:
     Player(const Picture& picture, QPainter& painter, const QRectF& target)
-        : m_picture(picture), p(painter), m_target(target), m_base(painter.worldTransform())
+        : m_picture(picture), p(painter), m_target(target), m_base(painter.worldTransform()),
+          m_perInch(qMax(1.0, painter.device()->logicalDpiY() / 96.0))
     {
         m_state.windowOrg = picture.bounds.topLeft();
         m_state.windowExt = QPointF(picture.bounds.width(), picture.bounds.height());
@@ -148,7 +153,7 @@ private:
     {
         const QTransform t = logical() * m_base;
         p.setWorldTransform(t);
-        p.setPen(makePen(pen(), QLineF(t.map(QPointF(0, 0)), t.map(QPointF(1, 0))).length()));
+        p.setPen(makePen(pen(), QLineF(t.map(QPointF(0, 0)), t.map(QPointF(1, 0))).length(), m_perInch));
         p.setBrush(makeBrush(brush()));
         p.setBackground(m_state.bkColour);
         p.setBackgroundMode(m_state.bkMode == BkOpaque ? Qt::OpaqueMode : Qt::TransparentMode);
@@ -220,6 +225,7 @@ private:
     QPainter& p;
     const QRectF m_target;
     const QTransform m_base;
+    const qreal m_perInch;
     State m_state;
     std::vector<State> m_saved;
     const Pen m_defaultPen;
