@@ -358,7 +358,7 @@ void Player::text(const Step& s)
 
 void Metafile::play(QPainter& painter, const QRectF& target) const
 {
-    if (target.isEmpty())
+    if (target.isEmpty() || !painter.isActive())
         return;
     painter.save();
     painter.setClipRect(target, Qt::IntersectClip);
