@@ -12,7 +12,9 @@
 #include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 #include <QtTest>
+#include <map>
 #include <vector>
 
 struct Probe {
@@ -95,10 +97,12 @@ private slots:
     void keepsSizesOnEveryDevice();
     void extTextOutClipsFillsAndSpaces();
     void textFollowsTheCurrentPosition();
+    void turnsTextByItsEscapement();
     void refusesBrokenFiles_data();
     void refusesBrokenFiles();
     void refusesEveryTruncation();
     void survivesMutations();
+    void agreesWithLibwmf();
 };
 
 void TestMetafile::readsTheHeaders()
@@ -329,6 +333,18 @@ void TestMetafile::textFollowsTheCurrentPosition()
     QVERIFY(inked(two).width() > 100);
 }
 
+void TestMetafile::turnsTextByItsEscapement()
+{
+    // A quarter turn anticlockwise: the line runs up from (200, 200), and
+    // with top alignment the letters hang to the right of it.
+    WmfBuilder turned;
+    turned.font(-200, "Arial", 400, 900).select(0).bkMode(1).textOut(500, 500, "HEH");
+    const QRect ink = inked(render(turned.bytes(), {400, 400}));
+    QVERIFY(ink.bottom() < 200 && ink.bottom() > 190);
+    QVERIFY(ink.left() >= 200 && ink.right() < 280);
+    QVERIFY(ink.height() > 2 * ink.width());
+}
+
 void TestMetafile::refusesBrokenFiles_data()
 {
     QTest::addColumn<QByteArray>("file");
@@ -465,6 +481,82 @@ void TestMetafile::survivesMutations()
         m->play(painter, QRectF(0, 0, 32, 32));
     }
     QVERIFY2(accepted > 1000 && refused > 1000, qPrintable(QStringLiteral("%1 read, %2 refused").arg(accepted).arg(refused)));
+}
+
+// Where libwmf's wmf2svg, an independent reader, puts the same three shapes.
+// It fits the drawing's own extent to its page, so both readers' shapes are
+// compared as parts of the box around all three.
+void TestMetafile::agreesWithLibwmf()
+{
+    const QString wmf2svg = QStandardPaths::findExecutable("wmf2svg");
+    if (wmf2svg.isEmpty())
+        QSKIP("wmf2svg (libwmf-bin) is not installed");
+    WmfBuilder w;
+    w.bounds = QRect(0, 0, 2000, 1000);
+    w.pen(5, 0, Qt::black).select(0).brush(0, Qt::red).select(1).rectangle(100, 100, 500, 400)
+        .brush(0, Qt::blue).select(2).ellipse(600, 200, 1400, 900)
+        .brush(0, QColor(0, 128, 0)).select(3).polygon({{1500, 100}, {1900, 500}, {1500, 900}});
+    QTemporaryDir dir;
+    QFile file(dir.filePath("shapes.wmf"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(w.bytes());
+    file.close();
+    QProcess tool;
+    tool.start(wmf2svg, {"-o", dir.filePath("shapes.svg"), file.fileName()});
+    QVERIFY(tool.waitForFinished(30000));
+    QFile svgFile(dir.filePath("shapes.svg"));
+    QVERIFY(svgFile.open(QIODevice::ReadOnly));
+
+    std::map<QString, QRectF> theirs;
+    QXmlStreamReader svg(&svgFile);
+    while (!svg.atEnd()) {
+        if (svg.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const QXmlStreamAttributes a = svg.attributes();
+        auto number = [&](const char* name) { return a.value(QLatin1String(name)).toDouble(); };
+        const QString fill = a.value("style").toString().section("fill:", 1).section(';', 0, 0);
+        if (svg.name() == QLatin1String("rect"))
+            theirs[fill] = QRectF(number("x"), number("y"), number("width"), number("height"));
+        if (svg.name() == QLatin1String("ellipse"))
+            theirs[fill] = QRectF(number("cx") - number("rx"), number("cy") - number("ry"), 2 * number("rx"), 2 * number("ry"));
+        if (svg.name() == QLatin1String("polygon")) {
+            QPolygonF points;
+            for (const QString& xy : a.value("points").toString().simplified().split(' ', Qt::SkipEmptyParts))
+                points << QPointF(xy.section(',', 0, 0).toDouble(), xy.section(',', 1, 1).toDouble());
+            theirs[fill] = points.boundingRect();
+        }
+    }
+    QCOMPARE(theirs.size(), std::size_t(3));
+
+    const QImage image = render(w.bytes(), {800, 400});
+    std::map<QString, QRectF> ours;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb c = image.pixel(x, y);
+            const QString name = qRed(c) > 200 && qGreen(c) < 50 ? "red" : qBlue(c) > 200 && qRed(c) < 50 ? "blue"
+                : qGreen(c) > 100 && qRed(c) < 50 && qBlue(c) < 50                                       ? "green"
+                                                                                                          : "";
+            if (!name.isEmpty())
+                ours[name] |= QRectF(x, y, 1, 1);
+        }
+    QCOMPARE(ours.size(), std::size_t(3));
+
+    auto within = [](const std::map<QString, QRectF>& shapes, const QString& name) {
+        QRectF all;
+        for (const auto& shape : shapes)
+            all |= shape.second;
+        const QRectF r = shapes.at(name);
+        return QRectF((r.left() - all.left()) / all.width(), (r.top() - all.top()) / all.height(),
+                      r.width() / all.width(), r.height() / all.height());
+    };
+    for (const QString name : {"red", "blue", "green"}) {
+        const QRectF a = within(ours, name), b = within(theirs, name);
+        QVERIFY2(qAbs(a.left() - b.left()) < 0.02 && qAbs(a.top() - b.top()) < 0.02 && qAbs(a.width() - b.width()) < 0.02
+                     && qAbs(a.height() - b.height()) < 0.02,
+                 qPrintable(QStringLiteral("%1: ours (%2, %3, %4, %5), libwmf's (%6, %7, %8, %9)").arg(name)
+                                .arg(a.left()).arg(a.top()).arg(a.width()).arg(a.height())
+                                .arg(b.left()).arg(b.top()).arg(b.width()).arg(b.height())));
+    }
 }
 
 QTEST_MAIN(TestMetafile)

@@ -42,9 +42,9 @@ public:
     WmfBuilder& mapMode(int mode) { return record(0x0103, {mode}); }
     WmfBuilder& pen(int style, int width, QColor c) { return record(0x02FA, {style, width, 0, rg(c), c.blue()}); }
     WmfBuilder& brush(int style, QColor c, int hatch = 0) { return record(0x02FC, {style, rg(c), c.blue(), hatch}); }
-    WmfBuilder& font(int height, const QByteArray& face, int weight = 400)
+    WmfBuilder& font(int height, const QByteArray& face, int weight = 400, int escapement = 0)
     {
-        QVector<int> words{height, 0, 0, 0, weight, 0, 0, 0, 0};
+        QVector<int> words{height, 0, escapement, escapement, weight, 0, 0, 0, 0};
         return record(0x02FB, words + text(face + '\0'));
     }
     WmfBuilder& select(int slot) { return record(0x012D, {slot}); }
