@@ -124,7 +124,7 @@ private:
 
     bool header();
     bool record();
-    bool points(Step& step, qint64 firstWord, qint64 count);
+    bool points(Step& step, qint64 firstWord, qint64 n);
     bool create(const Object& object);
     bool objectNamed(int* object);
     void add(const Step& step) { m_picture.steps.push_back(step); }
@@ -389,12 +389,12 @@ bool Parser::record()
     return true;
 }
 
-bool Parser::points(Step& step, qint64 firstWord, qint64 count)
+bool Parser::points(Step& step, qint64 firstWord, qint64 n)
 {
-    if (!need(firstWord + 2 * count))
+    if (!need(firstWord + 2 * n))
         return false;
-    step.points.reserve(int(count));
-    for (qint64 i = 0; i < count; ++i)
+    step.points.reserve(int(n));
+    for (qint64 i = 0; i < n; ++i)
         step.points << QPoint(s(firstWord + 2 * i), s(firstWord + 2 * i + 1));
     return true;
 }

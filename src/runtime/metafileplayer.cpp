@@ -25,6 +25,10 @@ namespace {
 // file asks for, so fractional sizes come out right on every device.
 constexpr int kLayoutPixels = 256;
 
+// Saved states kept at most; a file that nests deeper saves no more, so a
+// run of SaveDC records cannot pile up painter states without end.
+constexpr std::size_t kMaxSavedStates = 64;
+
 QRectF rectOf(const Box& b)
 {
     return QRectF(QPointF(b.left, b.top), QPointF(b.right, b.bottom)).normalized();
@@ -243,8 +247,10 @@ void Player::run(const Step& s)
         break;
     case Op::SetMapMode: m_state.mapMode = s.value; break;
     case Op::SaveDC:
-        m_saved.push_back(m_state);
-        p.save();
+        if (m_saved.size() < kMaxSavedStates) {
+            m_saved.push_back(m_state);
+            p.save();
+        }
         break;
     case Op::RestoreDC: restore(s.value); break;
     case Op::Select: select(s.value); break;
