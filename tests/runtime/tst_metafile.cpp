@@ -177,6 +177,9 @@ void TestMetafile::drawsShapesThroughTheWindow_data()
     QTest::newRow("restoring a saved state")
         << filled(Qt::red).brush(0, Qt::blue).saveDC().select(2).restoreDC(-1).rectangle(0, 0, 1000, 1000).bytes()
         << QRectF() << Probes{{50, 50, kRed}};
+    QTest::newRow("restoring the first saved state by its number")
+        << filled(Qt::red).brush(0, Qt::blue).saveDC().select(2).saveDC().select(0).restoreDC(1).rectangle(0, 0, 1000, 1000).bytes()
+        << QRectF() << Probes{{50, 50, kRed}};
     QTest::newRow("clip rectangle")
         << filled(Qt::red).clip(0, 0, 500, 1000).rectangle(0, 0, 1000, 1000).bytes() << QRectF()
         << Probes{{25, 50, kRed}, {75, 50, kWhite}};
