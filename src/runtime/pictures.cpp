@@ -4,6 +4,8 @@
 
 #include <QCache>
 #include <QDir>
+#include <QFile>
+#include <QHash>
 #include <QImageReader>
 
 namespace Pictures {
@@ -19,6 +21,13 @@ QCache<QString, QPixmap>& cache()
 {
     static QCache<QString, QPixmap> c(kCacheKilobytes);
     return c;
+}
+
+// Only a handful of worksheets, so every metafile read is kept.
+QHash<QString, Metafile>& metafiles()
+{
+    static QHash<QString, Metafile> m;
+    return m;
 }
 
 QPixmap decode(const QString& assetPath)
@@ -63,15 +72,43 @@ QIcon icon(const QString& assetPath)
     return QIcon(get(assetPath));
 }
 
+Metafile metafile(const QString& assetPath)
+{
+    const auto cached = metafiles().constFind(assetPath);
+    if (cached != metafiles().constEnd())
+        return *cached;
+    QFile file(resolve(assetPath));
+    if (!file.open(QIODevice::ReadOnly))
+        MsgBox::fatal(missingMessage(assetPath));
+    QString reason;
+    const std::optional<Metafile> parsed = Metafile::parse(file.readAll(), &reason);
+    if (!parsed)
+        MsgBox::fatal(refusedMessage(assetPath, reason));
+    ++g_decodes;
+    metafiles().insert(assetPath, *parsed);
+    return *parsed;
+}
+
 int decodeCount() { return g_decodes; }
 
-void clearCache() { cache().clear(); }
+void clearCache()
+{
+    cache().clear();
+    metafiles().clear();
+}
 
 QString missingMessage(const QString& assetPath)
 {
     return QStringLiteral("Partitude cannot go on: the picture file \"%1\" is missing or cannot be read.\n\n"
                           "Partitude looks for its pictures in the folder:\n%2")
         .arg(assetPath, QDir::toNativeSeparators(QDir(g_folder).absolutePath()));
+}
+
+QString refusedMessage(const QString& assetPath, const QString& reason)
+{
+    return QStringLiteral("Partitude cannot go on: the picture file \"%1\" cannot be read: %2.\n\n"
+                          "Partitude looks for its pictures in the folder:\n%3")
+        .arg(assetPath, reason, QDir::toNativeSeparators(QDir(g_folder).absolutePath()));
 }
 
 } // namespace Pictures

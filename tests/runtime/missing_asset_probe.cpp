@@ -16,7 +16,11 @@ int main(int argc, char* argv[])
         return MsgBox::Answer::Ok;
     });
     Pictures::setAssetFolder(QString::fromLocal8Bit(argv[1]));
-    Pictures::get(QString::fromLocal8Bit(argv[2]));
+    const QString asset = QString::fromLocal8Bit(argv[2]);
+    if (asset.endsWith(QLatin1String(".wmf")))
+        Pictures::metafile(asset);
+    else
+        Pictures::get(asset);
     std::printf("loaded\n");
     return 0;
 }

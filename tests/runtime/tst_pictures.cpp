@@ -1,4 +1,5 @@
 #include "runtime/pictures.h"
+#include "wmfbuilder.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -9,6 +10,7 @@ class TestPictures : public QObject {
 private slots:
     void assetPathsResolveAgainstTheFolder();
     void eachFileIsDecodedOnce();
+    void eachMetafileIsReadOnce();
     void aMissingOrBrokenFileIsFatal_data();
     void aMissingOrBrokenFileIsFatal();
 };
@@ -34,19 +36,44 @@ void TestPictures::eachFileIsDecodedOnce()
     QCOMPARE(Pictures::decodeCount(), before + 2);
 }
 
+void TestPictures::eachMetafileIsReadOnce()
+{
+    QTemporaryDir dir;
+    QVERIFY(QDir(dir.path()).mkpath("wmf"));
+    WmfBuilder sheet;
+    sheet.bounds = QRect(0, 0, 11520, 15840);
+    QFile f(dir.filePath("wmf/y2print1.wmf"));
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(sheet.rectangle(0, 0, 100, 100).bytes());
+    f.close();
+    Pictures::setAssetFolder(dir.path());
+    const int before = Pictures::decodeCount();
+    QCOMPARE(Pictures::metafile("wmf\\y2print1.wmf").sizeInTwips(), QSizeF(11520, 15840));
+    QCOMPARE(Pictures::metafile("wmf\\y2print1.wmf").recordCount(), 1);
+    QCOMPARE(Pictures::decodeCount(), before + 1);
+    Pictures::clearCache();
+    Pictures::metafile("wmf\\y2print1.wmf");
+    QCOMPARE(Pictures::decodeCount(), before + 2);
+}
+
 void TestPictures::aMissingOrBrokenFileIsFatal_data()
 {
     QTest::addColumn<QString>("asset");
     QTest::addColumn<QByteArray>("contents"); // empty: the file is not there
-    QTest::newRow("missing") << "jpg2\\solita05.jpg" << QByteArray();
-    QTest::newRow("not a picture") << "jpg2\\solita05.jpg" << QByteArray("this is not a jpeg");
-    QTest::newRow("cut short") << "gif\\leaf.gif" << QByteArray("GIF89a\x10\x00", 8);
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("missing") << "jpg2\\solita05.jpg" << QByteArray() << "";
+    QTest::newRow("not a picture") << "jpg2\\solita05.jpg" << QByteArray("this is not a jpeg") << "";
+    QTest::newRow("cut short") << "gif\\leaf.gif" << QByteArray("GIF89a\x10\x00", 8) << "";
+    QTest::newRow("metafile missing") << "wmf\\y2print1.wmf" << QByteArray() << "";
+    QTest::newRow("metafile cut short") << "wmf\\u1print1.wmf" << WmfBuilder().rectangle(0, 0, 9, 9).bytes().left(50)
+                                        << "cannot be read: the record at byte 40 is 14 bytes long, but only 10 bytes";
 }
 
 void TestPictures::aMissingOrBrokenFileIsFatal()
 {
     QFETCH(QString, asset);
     QFETCH(QByteArray, contents);
+    QFETCH(QString, reason);
     QTemporaryDir dir;
     if (!contents.isEmpty()) {
         QString relative = asset;
@@ -68,6 +95,7 @@ void TestPictures::aMissingOrBrokenFileIsFatal()
     QVERIFY2(out.startsWith("critical\n"), qPrintable(out));
     QVERIFY2(out.contains(asset), qPrintable(out));
     QVERIFY2(out.contains(QDir(dir.path()).absolutePath()), qPrintable(out));
+    QVERIFY2(out.contains(reason), qPrintable(out));
     QVERIFY(!out.contains("loaded"));
 }
 
