@@ -9,6 +9,7 @@
 #include "rewards/welldone.h"
 #include "runtime/forms.h"
 #include "titlefrm.h"
+#include "worksheets/printforms.h"
 
 namespace {
 template <class F> void add()
@@ -32,4 +33,7 @@ void registerScreens()
     add<Grey>();
     add<Reward>();
     add<Welldone>();
+    add<y2fracprint1>();
+    add<y5fracprint4>();
+    add<y6fracprint3>();
 }
