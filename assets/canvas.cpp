@@ -200,3 +200,17 @@ void drawSoftShadow(QPainter &painter, const QPointF &centre, double rx, double 
     painter.drawEllipse(centre, rx, rx);
     painter.restore();
 }
+
+void drawGlow(QPainter &painter, const QPointF &at, double radius, const QColor &colour, int alpha)
+{
+    QRadialGradient glow(at, radius);
+    QColor inner = colour;
+    inner.setAlpha(alpha);
+    QColor outer = colour;
+    outer.setAlpha(0);
+    glow.setColorAt(0, inner);
+    glow.setColorAt(1, outer);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(glow);
+    painter.drawEllipse(at, radius, radius);
+}

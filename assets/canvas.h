@@ -72,6 +72,9 @@ QPainterPath starPath(const QPointF &centre, double outerRadius,
 void drawGlassBall(QPainter &painter, const QPointF &centre, double radius,
                    const QColor &colour);
 
+// A round glow of light fading out from its centre.
+void drawGlow(QPainter &painter, const QPointF &at, double radius, const QColor &colour, int alpha);
+
 // A soft shadow ellipse under an object standing on something.
 void drawSoftShadow(QPainter &painter, const QPointF &centre, double rx,
                     double ry, int alpha = 70);

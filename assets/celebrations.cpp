@@ -16,20 +16,6 @@ namespace Celebrate {
 double fraction(double x) { return x - std::floor(x); }
 double wave(double cycles) { return std::sin(2 * M_PI * cycles); }
 
-void drawGlow(QPainter &p, const QPointF &at, double r, const QColor &colour, int alpha)
-{
-    QRadialGradient glow(at, r);
-    QColor inner = colour;
-    inner.setAlpha(alpha);
-    QColor outer = colour;
-    outer.setAlpha(0);
-    glow.setColorAt(0, inner);
-    glow.setColorAt(1, outer);
-    p.setPen(Qt::NoPen);
-    p.setBrush(glow);
-    p.drawEllipse(at, r, r);
-}
-
 void drawSparkle(QPainter &p, const QPointF &at, double r, double turnDegrees,
                  const QColor &colour, double opacity)
 {

@@ -20,8 +20,6 @@ constexpr double kHeight = 150;
 double fraction(double x);
 double wave(double cycles);  // sin(2 pi cycles)
 
-// A soft round glow that fades to nothing at radius r.
-void drawGlow(QPainter &p, const QPointF &at, double r, const QColor &colour, int alpha);
 
 // A four-pointed twinkle with a little glow round it.
 void drawSparkle(QPainter &p, const QPointF &at, double r, double turnDegrees,

@@ -27,20 +27,6 @@ const QColor kStarColours[] = {QColor(255, 224, 70), QColor(255, 255, 255),
                                QColor(255, 150, 200), QColor(150, 240, 255),
                                QColor(255, 180, 60)};
 
-void drawGlow(QPainter &p, const QPointF &at, double r, const QColor &colour, int alpha)
-{
-    QRadialGradient glow(at, r);
-    QColor inner = colour;
-    inner.setAlpha(alpha);
-    QColor outer = colour;
-    outer.setAlpha(0);
-    glow.setColorAt(0, inner);
-    glow.setColorAt(1, outer);
-    p.setPen(Qt::NoPen);
-    p.setBrush(glow);
-    p.drawEllipse(at, r, r);
-}
-
 void drawShinyStar(QPainter &p, const QPointF &at, double r, double turn, const QColor &colour,
                    double opacity = 1.0)
 {

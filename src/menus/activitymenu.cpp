@@ -1,6 +1,7 @@
 #include "activitymenu.h"
 
 #include "comingsoon.h"
+#include "menulook.h"
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"
 #include "runtime/picturebox.h"
@@ -12,8 +13,8 @@
 #include <QPushButton>
 
 namespace {
-const QColor kBack(49, 130, 212);
-const QColor kYearInk(255, 236, 120);
+using MenuLook::kBack;
+using MenuLook::kYearInk;
 
 constexpr int kTimer1Ms = 1000;
 constexpr int kTimer2Ms = 2000;
@@ -31,18 +32,6 @@ constexpr int kTitleLeft = 4380;
 constexpr int kTitleWidth = kInsideWidth - kTitleLeft - 240;
 constexpr int kTitlePoints = 14;
 constexpr int kSmallestTitlePoints = 9;
-
-QLabel* whiteLabel(QWidget* parent, const QString& name, const QString& text, const QFont& font,
-                   const QColor& ink = Qt::white)
-{
-    auto* label = new QLabel(text, parent);
-    label->setObjectName(name);
-    label->setFont(font);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, ink);
-    label->setPalette(palette);
-    return label;
-}
 
 // The largest size, from the design's size down to the smallest allowed,
 // at which a word-wrapped label's text fits the label.
@@ -66,9 +55,9 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
     , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
     , Timer2(design.secondStartupTimer ? addTimer(QStringLiteral("Timer2"), kTimer2Ms) : nullptr)
     , Command4(new QPushButton(QStringLiteral("Goodbye"), this))
-    , Label1(whiteLabel(this, QStringLiteral("Label1"), QString::fromLatin1(design.yearLabel),
+    , Label1(MenuLook::label(this, QStringLiteral("Label1"), QString::fromLatin1(design.yearLabel),
                         Twips::font(QStringLiteral("Times New Roman"), 20, true), kYearInk))
-    , Label4(whiteLabel(this, QStringLiteral("Label4"), QStringLiteral("Partitude"),
+    , Label4(MenuLook::label(this, QStringLiteral("Label4"), QStringLiteral("Partitude"),
                         Twips::font(QStringLiteral("Times New Roman"), 32, true)))
     , m_design(design)
 {
@@ -111,7 +100,7 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
         connect(button, &QPushButton::clicked, this, [this, &activity] { open(activity); });
         buttons.append(button);
 
-        QLabel* title = whiteLabel(this, QStringLiteral("Label12(%1)").arg(i), QString::fromLatin1(activity.title),
+        QLabel* title = MenuLook::label(this, QStringLiteral("Label12(%1)").arg(i), QString::fromLatin1(activity.title),
                                    QFont());
         title->setWordWrap(true);
         title->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);

@@ -1,6 +1,7 @@
 #include "year.h"
 
 #include "logo.h"
+#include "menulook.h"
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"
 #include "runtime/picturebox.h"
@@ -25,8 +26,8 @@ const Year::Choice Year::kChoices[5] = {
 };
 
 namespace {
-const QColor kBack(49, 130, 212);
-const QColor kYearInk(255, 236, 120);
+using MenuLook::kBack;
+using MenuLook::kYearInk;
 
 // The start-up chain's intervals.
 constexpr int kTimer1Ms = 1000;
@@ -51,17 +52,6 @@ QPushButton* arrowButton(QWidget* parent, const char* name)
     return b;
 }
 
-QLabel* label(QWidget* parent, const QString& name, const QString& text, const QFont& font,
-              const QColor& ink = Qt::white)
-{
-    auto* l = new QLabel(text, parent);
-    l->setObjectName(name);
-    l->setFont(font);
-    QPalette palette = l->palette();
-    palette.setColor(QPalette::WindowText, ink);
-    l->setPalette(palette);
-    return l;
-}
 } // namespace
 
 Year::Year()
@@ -80,10 +70,10 @@ Year::Year()
     , Command2(arrowButton(this, "Command2"))
     , Command4(arrowButton(this, "Command4"))
     , Frame1(new QFrame(this))
-    , Label3(label(this, QStringLiteral("Label3"), QString(), Twips::font(QStringLiteral("Arial"), 9, false)))
-    , Label2(label(this, QStringLiteral("Label2"), QStringLiteral("Fractions made friendly"),
+    , Label3(MenuLook::label(this, QStringLiteral("Label3"), QString(), Twips::font(QStringLiteral("Arial"), 9, false)))
+    , Label2(MenuLook::label(this, QStringLiteral("Label2"), QStringLiteral("Fractions made friendly"),
                    Twips::font(QStringLiteral("Arial"), 9, true)))
-    , Label4(label(this, QStringLiteral("Label4"), QStringLiteral("Partitude"),
+    , Label4(MenuLook::label(this, QStringLiteral("Label4"), QStringLiteral("Partitude"),
                    Twips::font(QStringLiteral("Times New Roman"), 40, true)))
 {
     setWindowTitle(QStringLiteral("Partitude"));
@@ -125,7 +115,7 @@ Year::Year()
         const Choice& choice = kChoices[i];
         connect(button, &QPushButton::clicked, this, [this, &choice] { choose(choice); });
 
-        QLabel* year = label(Frame1, QStringLiteral("Label12(%1)").arg(i),
+        QLabel* year = MenuLook::label(Frame1, QStringLiteral("Label12(%1)").arg(i),
                              QStringLiteral("Year %1").arg(i + 2),
                              Twips::font(QStringLiteral("Times New Roman"), 22, true), kYearInk);
         Twips::place(year, 360, top - (kRowTop - 120), kFrameWidth - 480, kYearButtonHeight);
