@@ -71,6 +71,8 @@ QColor QBColor(int index)
 struct Printer::Page {
     std::unique_ptr<QPagedPaintDevice> device;
     QString pdfFile; // empty on a printer
+    QString pdfFolder; // the PDF folder it was set up for
+    Printer::PageOrientation orientation = Printer::Portrait;
     QPainter painter;
 };
 
@@ -85,6 +87,11 @@ Printer& printer()
 
 Printer::Page& Printer::page()
 {
+    // A page set up only for measuring follows a later change of paper or
+    // target; once drawing has started the document keeps its page.
+    if (m_page && !m_page->painter.isActive()
+        && (m_page->orientation != Orientation || m_page->pdfFolder != PrintTarget::pdfFolder()))
+        m_page.reset();
     if (m_page)
         return *m_page;
     static bool endsAtExit = false;
@@ -93,6 +100,8 @@ Printer::Page& Printer::page()
         endsAtExit = true;
     }
     auto page = std::make_unique<Page>();
+    page->orientation = Orientation;
+    page->pdfFolder = PrintTarget::pdfFolder();
     const auto orientation = Orientation == Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
     try {
         if (PrintTarget::printsToPdf()) {

@@ -127,6 +127,12 @@ void TestPrinter::theScaleIsTheA4PrintableAreaInTwips()
     QVERIFY(qAbs(p.textHeight() - 2 * line) < 5);
     p.FontBold = true;
     QVERIFY(p.textWidth("Partitude") > 2 * wide);
+    // Turning the paper before anything is drawn turns the page measured.
+    const double portraitWidth = p.scaleWidth();
+    p.Orientation = Printer::Landscape;
+    QVERIFY(qAbs(p.scaleHeight() - portraitWidth) < 10);
+    p.Orientation = Printer::Portrait;
+    QVERIFY(qAbs(p.scaleWidth() - portraitWidth) < 10);
     p.endDoc(); // measuring alone prints nothing
     QVERIFY(!p.documentOpen());
     QVERIFY(PdfSupport::files(m_dir.path()).isEmpty());
