@@ -1,7 +1,8 @@
 #pragma once
 // Writes small placeable metafiles, record by record, so the metafile tests
-// need no picture file. Parameters are given as the file stores them: 16-bit
-// words, shapes' corners bottom-right first, points y before x.
+// need no picture file. The whole file is 16-bit words; parameters are given
+// as the file stores them: shapes' corners bottom-right first, points y
+// before x (except in polygons' point lists).
 #include <QByteArray>
 #include <QColor>
 #include <QPolygon>
@@ -13,39 +14,23 @@ public:
     QRect bounds{0, 0, 1000, 1000}; // as left, top, width, height
     int unitsPerInch = 1440;
     int objects = 8;
-    bool endRecord = true;
-    bool rightChecksum = true;
-    static constexpr int kHeaderBytes = 40;
 
-    WmfBuilder& record(quint16 function, const QVector<int>& words)
+    WmfBuilder& record(quint16 function, const QVector<int>& params)
     {
-        m_offsets << kHeaderBytes + int(m_records.size());
-        m_largest = qMax(m_largest, 3 + int(words.size()));
-        put32(m_records, quint32(3 + words.size()));
-        put16(m_records, function);
-        for (int w : words)
-            put16(m_records, w);
+        const int size = 3 + int(params.size());
+        m_largest = qMax(m_largest, size);
+        m_words << (size & 0xFFFF) << (size >> 16) << function << params;
         return *this;
     }
-    // A record written byte by byte, its size field and all.
-    WmfBuilder& raw(const QByteArray& bytes)
-    {
-        m_offsets << kHeaderBytes + int(m_records.size());
-        m_records += bytes;
-        return *this;
-    }
-    // The byte at which the i-th record begins.
-    int offset(int i) const { return m_offsets.at(i); }
 
     WmfBuilder& windowOrg(int x, int y) { return record(0x020B, {y, x}); }
     WmfBuilder& windowExt(int x, int y) { return record(0x020C, {y, x}); }
     WmfBuilder& mapMode(int mode) { return record(0x0103, {mode}); }
     WmfBuilder& pen(int style, int width, QColor c) { return record(0x02FA, {style, width, 0, rg(c), c.blue()}); }
     WmfBuilder& brush(int style, QColor c, int hatch = 0) { return record(0x02FC, {style, rg(c), c.blue(), hatch}); }
-    WmfBuilder& font(int height, const QByteArray& face, int weight = 400, int escapement = 0)
+    WmfBuilder& font(int height, const QByteArray& face, int escapement = 0)
     {
-        QVector<int> words{height, 0, escapement, escapement, weight, 0, 0, 0, 0};
-        return record(0x02FB, words + text(face + '\0'));
+        return record(0x02FB, QVector<int>{height, 0, escapement, escapement, 400, 0, 0, 0, 0} + text(face + '\0'));
     }
     WmfBuilder& select(int slot) { return record(0x012D, {slot}); }
     WmfBuilder& remove(int slot) { return record(0x01F0, {slot}); }
@@ -63,21 +48,17 @@ public:
     }
     WmfBuilder& polygon(const QPolygon& points, quint16 function = 0x0324)
     {
-        QVector<int> words{int(points.size())};
-        for (const QPoint& p : points)
-            words << p.x() << p.y();
-        return record(function, words);
+        return record(function, QVector<int>{int(points.size())} + xy(points));
     }
     WmfBuilder& polyline(const QPolygon& points) { return polygon(points, 0x0325); }
     WmfBuilder& polyPolygon(const QVector<QPolygon>& polygons)
     {
-        QVector<int> words{int(polygons.size())};
-        for (const QPolygon& polygon : polygons)
-            words << int(polygon.size());
-        for (const QPolygon& polygon : polygons)
-            for (const QPoint& p : polygon)
-                words << p.x() << p.y();
-        return record(0x0538, words);
+        QVector<int> counts{int(polygons.size())}, points;
+        for (const QPolygon& polygon : polygons) {
+            counts << int(polygon.size());
+            points << xy(polygon);
+        }
+        return record(0x0538, counts + points);
     }
     WmfBuilder& textColour(QColor c) { return record(0x0209, {rg(c), c.blue()}); }
     WmfBuilder& bkColour(QColor c) { return record(0x0201, {rg(c), c.blue()}); }
@@ -94,45 +75,33 @@ public:
         return record(0x0A32, QVector<int>{y, x, int(s.size()), options} + box + text(s) + dx);
     }
 
+    // The placeable header with its checksum, the metafile header, the
+    // records and an end record.
     QByteArray bytes() const
     {
+        QVector<int> words{0xCDD7, 0x9AC6, 0, bounds.left(), bounds.top(), bounds.left() + bounds.width(),
+                           bounds.top() + bounds.height(), unitsPerInch, 0, 0};
+        int sum = 0;
+        for (int w : words)
+            sum ^= w & 0xFFFF;
+        const int fileWords = 9 + int(m_words.size()) + 3;
+        words << sum << 1 << 9 << 0x0300 << (fileWords & 0xFFFF) << (fileWords >> 16) << objects << m_largest << 0 << 0
+              << m_words << 3 << 0 << 0;
         QByteArray out;
-        put32(out, 0x9AC6CDD7);
-        put16(out, 0);
-        put16(out, bounds.left());
-        put16(out, bounds.top());
-        put16(out, bounds.left() + bounds.width());
-        put16(out, bounds.top() + bounds.height());
-        put16(out, unitsPerInch);
-        put32(out, 0);
-        quint16 sum = 0;
-        for (int i = 0; i < 20; i += 2)
-            sum ^= quint16(uchar(out[i]) | uchar(out[i + 1]) << 8);
-        put16(out, rightChecksum ? sum : sum ^ 0x5555);
-        const QByteArray end = endRecord ? QByteArray("\x03\0\0\0\0\0", 6) : QByteArray();
-        put16(out, 1);
-        put16(out, 9);
-        put16(out, 0x0300);
-        put32(out, quint32((18 + m_records.size() + end.size()) / 2));
-        put16(out, objects);
-        put32(out, quint32(m_largest));
-        put16(out, 0);
-        return out + m_records + end;
-    }
-
-    static void put16(QByteArray& out, int v)
-    {
-        out += char(v & 0xFF);
-        out += char((v >> 8) & 0xFF);
-    }
-    static void put32(QByteArray& out, quint32 v)
-    {
-        put16(out, int(v & 0xFFFF));
-        put16(out, int(v >> 16));
+        for (int w : words)
+            out.append(char(w & 0xFF)).append(char((w >> 8) & 0xFF));
+        return out;
     }
 
 private:
     static int rg(QColor c) { return c.red() | c.green() << 8; }
+    static QVector<int> xy(const QPolygon& points)
+    {
+        QVector<int> words;
+        for (const QPoint& p : points)
+            words << p.x() << p.y();
+        return words;
+    }
     static QVector<int> text(const QByteArray& s)
     {
         QVector<int> words;
@@ -141,7 +110,6 @@ private:
         return words;
     }
 
-    QByteArray m_records;
-    QVector<int> m_offsets;
+    QVector<int> m_words; // the records
     int m_largest = 3;
 };
