@@ -387,8 +387,9 @@ void TestMetafile::survivesMutations()
     const QByteArray file = w.bytes();
     QRandomGenerator random(20240607);
     const int extremes[] = {0x0000, 0x0001, 0x7FFF, 0x8000, 0xFFFF};
-    int accepted = 0, refused = 0;
+    int accepted = 0;
     QImage image(32, 32, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
     for (int round = 0; round < 5000; ++round) {
         QByteArray bytes = file;
         for (int change = random.bounded(1, 5); change > 0 && !bytes.isEmpty(); --change) {
@@ -404,18 +405,14 @@ void TestMetafile::survivesMutations()
                     bytes[at + 1] = char(extremes[random.bounded(5)] >> 8);
             }
         }
-        const Exact exact(bytes);
-        const auto m = Metafile::parse(exact.bytes);
-        if (!m) {
-            ++refused;
-            continue;
+        const auto m = Metafile::parse(Exact(bytes).bytes);
+        if (m) {
+            ++accepted;
+            QPainter painter(&image);
+            m->play(painter, QRectF(0, 0, 32, 32));
         }
-        ++accepted;
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        m->play(painter, QRectF(0, 0, 32, 32));
     }
-    QVERIFY2(accepted > 1000 && refused > 1000, qPrintable(QStringLiteral("%1 read, %2 refused").arg(accepted).arg(refused)));
+    QVERIFY2(accepted > 1000 && accepted < 4000, qPrintable(QStringLiteral("%1 of 5000 read").arg(accepted)));
 }
 
 QTEST_MAIN(TestMetafile)

@@ -50,10 +50,9 @@ private slots:
     void cleanup();
     void qbColorIsTheClassicPalette();
     void thePageIsA4InsideItsBorderAndTurnsWithThePaper();
-    void linesPrintInOrderOneLineHeightApart();
+    void linesPrintInOrderAndEachDocumentIsAFileOfItsOwn();
     void centredTextIsCentredOnThePage_data();
     void centredTextIsCentredOnThePage();
-    void eachDocumentIsAFileOfItsOwn();
     void drawingsLandAtTheirPlaceSizeAndColour();
     void aPageThatCannotBeOpenedFailsTheDrawingThenRecovers();
 };
@@ -109,7 +108,7 @@ void TestPrinter::thePageIsA4InsideItsBorderAndTurnsWithThePaper()
     QVERIFY(PdfSupport::files(m_dir.path()).isEmpty());
 }
 
-void TestPrinter::linesPrintInOrderOneLineHeightApart()
+void TestPrinter::linesPrintInOrderAndEachDocumentIsAFileOfItsOwn()
 {
     Printer& p = printer();
     const QStringList texts = {"Partitude", "Halves", "", "Excellent!", "Sam"};
@@ -126,37 +125,42 @@ void TestPrinter::linesPrintInOrderOneLineHeightApart()
         QCOMPARE(p.CurrentY, tops.last() + p.textHeight());
     }
     p.endDoc();
-    const QString pdf = onlyFile();
-    QCOMPARE(PdfSupport::lines(pdf), QStringList({"Partitude", "Halves", "Excellent!", "Sam"}));
+    QVERIFY(!p.documentOpen());
+    p.print(); // an empty line is enough to start the next document, at the top of its page
+    QVERIFY(p.documentOpen());
+    p.print("Second");
+    p.endDoc();
+    const QStringList files = PdfSupport::files(m_dir.path());
+    QCOMPARE(files.size(), 2);
+    QCOMPARE(PdfSupport::lines(files[0]), QStringList({"Partitude", "Halves", "Excellent!", "Sam"}));
+    QCOMPARE(PdfSupport::lines(files[1]), QStringList{"Second"});
     for (int i : {0, 1, 3, 4}) {
-        const Word w = findWord(pdf, texts[i]);
+        const Word w = findWord(files[0], texts[i]);
         QVERIFY2(qAbs(w.box.left() * 20 - margin() - 2000) < 40, qPrintable(texts[i]));
         // The word's box reaches from a little above the letters' tops to the descent.
         QVERIFY2(qAbs(w.box.top() * 20 - margin() - tops[i]) < 60, qPrintable(texts[i]));
     }
+    const Word second = findWord(files[1], "Second"); // on the line below the empty one
+    QVERIFY(qAbs(second.box.left() * 20 - margin()) < 40 && qAbs(second.box.top() * 20 - margin() - p.textHeight()) < 60);
 }
 
 void TestPrinter::centredTextIsCentredOnThePage_data()
 {
-    QTest::addColumn<QString>("font");
-    QTest::addColumn<double>("size");
-    QTest::addColumn<bool>("bold");
+    QTest::addColumn<QFont>("font");
     QTest::addColumn<QString>("text");
-    QTest::newRow("title") << "Times New Roman" << 25.0 << false << "Partitude";
-    QTest::newRow("headline") << "Times New Roman" << 28.0 << true << "Congratulations!!!";
-    QTest::newRow("sentence") << "Arial" << 14.0 << false << "you have risen to the Challenge";
+    QTest::newRow("title") << QFont("Times New Roman", 25) << "Partitude";
+    QTest::newRow("headline") << QFont("Times New Roman", 28, QFont::Bold) << "Congratulations!!!";
+    QTest::newRow("sentence") << QFont("Arial", 14) << "you have risen to the Challenge";
 }
 
 void TestPrinter::centredTextIsCentredOnThePage()
 {
-    QFETCH(QString, font);
-    QFETCH(double, size);
-    QFETCH(bool, bold);
+    QFETCH(QFont, font);
     QFETCH(QString, text);
     Printer& p = printer();
-    p.FontName = font;
-    p.FontSize = size;
-    p.FontBold = bold;
+    p.FontName = font.family();
+    p.FontSize = font.pointSizeF();
+    p.FontBold = font.bold();
     const double width = p.textWidth(text);
     p.CurrentX = (p.scaleWidth() - width) / 2;
     p.CurrentY = 3000;
@@ -167,24 +171,6 @@ void TestPrinter::centredTextIsCentredOnThePage()
         line |= w.box;
     QVERIFY2(qAbs(line.center().x() - PdfSupport::kPageWidthPt / 2) < 1.5, qPrintable(QString::number(line.center().x())));
     QVERIFY2(qAbs(line.width() * 20 - width) < 40, qPrintable(QString::number(line.width() * 20)));
-}
-
-void TestPrinter::eachDocumentIsAFileOfItsOwn()
-{
-    Printer& p = printer();
-    p.print("First");
-    p.endDoc();
-    QVERIFY(!p.documentOpen());
-    p.print(); // an empty line is enough to start the next document
-    p.print("Second");
-    p.endDoc();
-    const QStringList files = PdfSupport::files(m_dir.path());
-    QCOMPARE(files.size(), 2);
-    QCOMPARE(PdfSupport::lines(files[0]), QStringList{"First"});
-    QCOMPARE(PdfSupport::lines(files[1]), QStringList{"Second"});
-    // The second document started again at the top of its page.
-    QVERIFY(qAbs(findWord(files[1], "Second").box.top() - findWord(files[0], "First").box.top() -
-                 p.textHeight() / 20) < 1);
 }
 
 void TestPrinter::drawingsLandAtTheirPlaceSizeAndColour()
