@@ -37,7 +37,7 @@ struct Exact {
 
 // The file played onto a white image, filling it unless a target is given;
 // a null image if the file is refused.
-QImage render(const QByteArray& bytes, QSize size = {100, 100}, QRectF target = {}, int dotsPerMetre = 0)
+QImage render(const QByteArray& bytes, QSize size = {100, 100}, QRectF target = {}, int dotsPerMetre = 3780)
 {
     QString error;
     const auto metafile = Metafile::parse(bytes, &error);
@@ -46,10 +46,8 @@ QImage render(const QByteArray& bytes, QSize size = {100, 100}, QRectF target = 
         return QImage();
     }
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    if (dotsPerMetre > 0) {
-        image.setDotsPerMeterX(dotsPerMetre);
-        image.setDotsPerMeterY(dotsPerMetre);
-    }
+    image.setDotsPerMeterX(dotsPerMetre); // 96 dots per inch unless told
+    image.setDotsPerMeterY(dotsPerMetre);
     image.fill(Qt::white);
     QPainter painter(&image);
     metafile->play(painter, target.isEmpty() ? QRectF(image.rect()) : target);
