@@ -152,9 +152,9 @@ void TestMetafile::drawsThroughTheWindow_data()
     QTest::newRow("line and polyline")
         << WmfBuilder().pen(0, 40, Qt::black).select(0).moveTo(500, 100).lineTo(500, 900).polyline({{100, 500}, {900, 500}}).bytes()
         << QRectF() << Probes{{50, 20, kBlack}, {20, 50, kBlack}, {20, 20, kWhite}, {50, 95, kWhite}};
-    // Slot 0 is freed, so the blue brush takes it and "select 0" picks blue.
-    QTest::newRow("a deleted slot is taken again")
-        << WmfBuilder().pen(5, 0, Qt::black).brush(0, Qt::red).select(0).select(1).remove(0)
+    // Slots 0 and 1 are freed, so the blue brush takes the lowest and "select 0" picks blue.
+    QTest::newRow("the lowest deleted slot is taken again")
+        << WmfBuilder().pen(5, 0, Qt::black).brush(0, Qt::red).select(0).select(1).remove(0).remove(1)
                .brush(0, Qt::blue).select(0).rectangle(0, 0, 1000, 1000).bytes()
         << QRectF() << Probes{{50, 50, kBlue}};
     QTest::newRow("restoring a saved state")
