@@ -72,6 +72,7 @@ void TestPrinter::init()
     p.FontBold = false;
     p.ForeColor = Qt::black;
     p.DrawWidth = 1;
+    p.Orientation = Printer::Portrait;
 }
 
 void TestPrinter::cleanup()
