@@ -23,7 +23,6 @@ struct WmfCheck
     int inch = 0;
     int objectCount = 0;   // as the header says
     int peakObjects = 0;   // most objects alive at once
-    int records = 0;       // META_EOF included
     QStringList texts;
     QMap<int, int> functionCounts;
 };
@@ -101,34 +100,28 @@ inline WmfCheck checkWmf(const QByteArray &bytes)
             return fail(where + QStringLiteral(": not a record the worksheets may use"));
         }
         largest = std::max(largest, words);
-        ++c.records;
         ++c.functionCounts[fn];
 
-        auto create = [&]() {
+        switch (fn) {
+        case 0x0000:
+            ended = true;
+            break;
+        case 0x02FB:
+            if (paramBytes < 20)
+                return fail(where + QStringLiteral(": font record too short"));
+            [[fallthrough]];
+        case 0x02FA:
+        case 0x02FC: {  // a new object takes the lowest free slot
             const auto free = std::find(live.begin(), live.end(), false);
-            const auto slot = free - live.begin();
+            if (free - live.begin() >= c.objectCount)
+                return fail(where + QStringLiteral(": object table of %1 is full").arg(c.objectCount));
             if (free == live.end())
                 live.push_back(true);
             else
                 *free = true;
             c.peakObjects = std::max(c.peakObjects, int(std::count(live.begin(), live.end(), true)));
-            return int(slot);
-        };
-        switch (fn) {
-        case 0x0000:
-            ended = true;
             break;
-        case 0x02FA:
-        case 0x02FC:
-            if (create() >= c.objectCount)
-                return fail(where + QStringLiteral(": object table of %1 is full").arg(c.objectCount));
-            break;
-        case 0x02FB:
-            if (paramBytes < 20)
-                return fail(where + QStringLiteral(": font record too short"));
-            if (create() >= c.objectCount)
-                return fail(where + QStringLiteral(": object table of %1 is full").arg(c.objectCount));
-            break;
+        }
         case 0x012D:
         case 0x01F0: {
             const int slot = u16(p);
@@ -189,7 +182,5 @@ inline WmfCheck checkWmf(const QByteArray &bytes)
         return fail(QStringLiteral("header says the largest record is %1 words, it is %2").arg(maxRecord).arg(largest));
     if (std::count(live.begin(), live.end(), true) != 0)
         return fail(QStringLiteral("objects left undeleted at the end"));
-    if (c.peakObjects > c.objectCount)
-        return fail(QStringLiteral("%1 objects at once in a table of %2").arg(c.peakObjects).arg(c.objectCount));
     return c;
 }
