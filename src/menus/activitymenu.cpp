@@ -20,7 +20,7 @@ constexpr int kTimer1Ms = 1000;
 constexpr int kTimer2Ms = 2000;
 
 // Layout, in twips inside the window (9480 x 6510).
-constexpr int kInsideWidth = Form::kScreenWidthTwips - Form::kBorderWidthTwips;
+constexpr int kInsideWidth = Form::kScreenScaleWidthTwips;
 constexpr int kLeftColumn = 360;
 constexpr int kRowsTop = 1620;
 constexpr int kRowsHeight = 4620;

@@ -11,7 +11,7 @@
 #include <QPushButton>
 
 namespace {
-constexpr int kInsideWidth = Form::kScreenWidthTwips - Form::kBorderWidthTwips;
+constexpr int kInsideWidth = Form::kScreenScaleWidthTwips;
 const QColor kPanel(255, 251, 238);
 const QColor kInk(0, 58, 140);
 } // namespace

@@ -78,10 +78,9 @@ Year::Year()
 {
     setWindowTitle(QStringLiteral("Partitude"));
     setDesignSize(kScreenWidthTwips, kScreenHeightTwips);
-    const int inside = kScreenWidthTwips - kBorderWidthTwips;
 
     Label4->setAlignment(Qt::AlignCenter);
-    Twips::place(Label4, 0, 120, inside, 1200);
+    Twips::place(Label4, 0, 120, kScreenScaleWidthTwips, 1200);
 
     // Left: the logo, the publisher and the sound switch.
     Picture1->setAutoSize(true);

@@ -142,10 +142,18 @@ void Welldone::Timer1_Timer()
     Random::Randomize();
     const int pick = static_cast<int>(Random::Rnd() * kCelebrationCount);
     m_pick = pick;
-    m_base = QString::fromLatin1(kCelebrations[pick].base);
-    m_frames = kCelebrations[pick].frames;
     m_frame = 0;
     Timer3->setEnabled(true);
+}
+
+QString Welldone::animationBase() const
+{
+    return QString::fromLatin1(kCelebrations[m_pick].base);
+}
+
+int Welldone::animationFrames() const
+{
+    return kCelebrations[m_pick].frames;
 }
 
 void Welldone::Timer2_Timer()
@@ -157,7 +165,7 @@ void Welldone::Timer2_Timer()
 void Welldone::Timer3_Timer()
 {
     m_frame += 1;
-    if (m_frame >= m_frames)
+    if (m_frame >= kCelebrations[m_pick].frames)
         m_frame = 0;
     Picture1->load(celebrationFrameFile(kCelebrations[m_pick], m_frame));
 }

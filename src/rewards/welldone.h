@@ -33,8 +33,8 @@ public:
     static constexpr int kTimer4Ms = 1000;
 
     // The celebration playing, and its frame.
-    QString animationBase() const { return m_base; }
-    int animationFrames() const { return m_frames; }
+    QString animationBase() const;
+    int animationFrames() const;
     int frame() const { return m_frame; }
 
     // The banner across the top of the certificate.
@@ -56,8 +56,6 @@ protected:
 private:
     void printcertificate();
 
-    int m_pick = 0;
-    QString m_base;
-    int m_frames = 0;
+    int m_pick = 0; // in the list of celebrations
     int m_frame = 0;
 };

@@ -41,6 +41,8 @@ public:
     // and the activities).
     static constexpr int kScreenWidthTwips = 9600;
     static constexpr int kScreenHeightTwips = 7200;
+    // The inside width of a full screen (its ScaleWidth).
+    static constexpr int kScreenScaleWidthTwips = kScreenWidthTwips - kBorderWidthTwips;
 
 protected:
     // What the window's close box does; by default it ends the program, as

@@ -25,7 +25,7 @@ constexpr int kCheckLeft = 4014;
 constexpr int kHintLeft = 5961;
 constexpr int kExitLeft = 7910;
 constexpr int kPanelLeft = 1300;
-constexpr int kActivityScaleWidth = 9480;
+constexpr int kActivityScaleWidth = Form::kScreenScaleWidthTwips;
 constexpr int kActivityScaleHeight = 6510;
 constexpr int kDefaultQuestions = 20;
 

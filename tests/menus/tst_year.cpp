@@ -33,7 +33,6 @@ private slots:
     void soundBoxFollowsTheSettings_data();
     void soundBoxFollowsTheSettings();
     void logoCyclesThroughTwentyFrames();
-    void startupChainRunsOnce();
     void doorLeadsToTitleAndBack();
     void webLabelOpensTheSite();
 
@@ -180,26 +179,6 @@ void TestYear::logoCyclesThroughTwentyFrames()
     }
     QCOMPARE(seen.size(), 20);
     QCOMPARE(logoframe, 0);
-}
-
-void TestYear::startupChainRunsOnce()
-{
-    Year* year = showYear(QStringLiteral("0"));
-    QVERIFY(year->Timer1->isEnabled());
-    QVERIFY(!year->Timer2->isEnabled());
-    QVERIFY(!year->Timer3->isEnabled());
-    QCOMPARE(year->Timer1->interval(), 1000);
-    QCOMPARE(year->Timer2->interval(), 3000);
-    QCOMPARE(year->Timer3->interval(), 1000);
-    year->Timer1_Timer();
-    QVERIFY(!year->Timer1->isEnabled());
-    QVERIFY(year->Timer2->isEnabled());
-    year->Timer2_Timer();
-    QVERIFY(!year->Timer2->isEnabled());
-    QVERIFY(year->Timer3->isEnabled());
-    year->Timer3_Timer();
-    QVERIFY(!year->Timer3->isEnabled());
-    QVERIFY(year->Timer4->isEnabled());
 }
 
 void TestYear::doorLeadsToTitleAndBack()
