@@ -12,8 +12,6 @@
 
 namespace {
 constexpr int kInsideWidth = Form::kScreenScaleWidthTwips;
-const QColor kPanel(255, 251, 238);
-const QColor kInk(0, 58, 140);
 } // namespace
 
 Comingsoon::Comingsoon()
@@ -38,8 +36,8 @@ Comingsoon::Comingsoon()
         label->setWordWrap(true);
         label->setAutoFillBackground(true);
         QPalette palette = label->palette();
-        palette.setColor(QPalette::Window, kPanel);
-        palette.setColor(QPalette::WindowText, kInk);
+        palette.setColor(QPalette::Window, Module1::kPanelPaper);
+        palette.setColor(QPalette::WindowText, Module1::kPanelInk);
         label->setPalette(palette);
     }
     Label1->setObjectName(QStringLiteral("Label1"));

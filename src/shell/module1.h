@@ -36,6 +36,9 @@ inline int starframe = 0;    // star frame counter
 
 // The activity screens' back colour.
 inline const QColor kActivityBack{48, 133, 214};
+// The cream panel and its dark blue ink, on the title and notice screens.
+inline const QColor kPanelPaper{255, 251, 238};
+inline const QColor kPanelInk{0, 58, 140};
 
 // The reward-picture sets, numbered as pickpicture draws them.
 struct RewardSet {

@@ -18,8 +18,6 @@ namespace {
 // The side of the animation frames, in pixels (they are drawn at that size).
 constexpr int kFrameSidePx = 256;
 
-const QColor kTitleInk(0, 58, 140);
-const QColor kPanel(255, 251, 238);
 
 QLabel* panelLabel(QWidget* parent, const char* name, const QString& text, const QFont& font)
 {
@@ -67,13 +65,13 @@ Titlefrm::Titlefrm()
 
     Frame1->setObjectName(QStringLiteral("Frame1"));
     Frame1->setFrameShape(QFrame::StyledPanel);
-    setControlBackColour(Frame1, kPanel);
+    setControlBackColour(Frame1, Module1::kPanelPaper);
     Twips::place(Frame1, 4560, 840, 4500, 3960);
     Twips::place(Label4, 120, 480, 4260, 1200);
     Twips::place(Label3, 240, 2160, 4020, 720);
     Twips::place(Label2, 240, 2940, 4020, 720);
     QPalette ink = Label4->palette();
-    ink.setColor(QPalette::WindowText, kTitleInk);
+    ink.setColor(QPalette::WindowText, Module1::kPanelInk);
     Label4->setPalette(ink);
 
     Picture1->setGeometry(Twips::toPixels(480), Twips::toPixels(840), kFrameSidePx, kFrameSidePx);
