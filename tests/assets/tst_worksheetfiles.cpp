@@ -1,14 +1,13 @@
-// Checks the six worksheet metafiles drawassets writes: each is a sound
-// placeable metafile of the right page size, made only of the records the
-// program's picture loading knows, says what the sheet is for, and sets
-// exercises that follow the activity's rules. Also checks that the check
-// itself finds faults, and the writer's and the generator's own rules.
-#include "wmfcheck.h"
-#include "wmfwriter.h"
+// Checks the six worksheet metafiles drawassets writes: the program's own
+// reader takes each one whole, with nothing in it passed over, at a size
+// that fits the page; each says what the sheet is for and sets exercises
+// that follow the activity's rules. Also checks the generator's own rules.
+#include "runtime/metafile.h"
 #include "worksheetexercises.h"
 
 #include <QFile>
 #include <QRegularExpression>
+#include <QtEndian>
 #include <QtTest>
 
 #include <numeric>
@@ -19,6 +18,32 @@ QByteArray readAsset(const QString &relative)
 {
     QFile f(QStringLiteral(PARTITUDE_TEST_ASSETS) + QLatin1Char('/') + relative);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+// What the sheet says: the strings of its TEXTOUT and EXTTEXTOUT records in
+// file order, and how many fonts it makes. Only for a file Metafile::parse
+// has taken, so every record and every string lies inside the file and an
+// end record comes before the end.
+struct SheetText
+{
+    QStringList texts;
+    int fonts = 0;
+};
+
+SheetText sheetText(const QByteArray &bytes)
+{
+    SheetText sheet;
+    const char *d = bytes.constData();
+    const auto word = [d](qint64 at) { return int(qFromLittleEndian<quint16>(d + at)); };
+    for (qint64 at = 22 + 18; word(at + 4) != 0x0000; at += 2 * qint64(qFromLittleEndian<quint32>(d + at))) {
+        const int function = word(at + 4);
+        sheet.fonts += function == 0x02FB;
+        if (function == 0x0521)  // length, string, y, x
+            sheet.texts << QString::fromLatin1(d + at + 8, word(at + 6));
+        else if (function == 0x0A32)  // y, x, length, options, a box if the options ask for one, string
+            sheet.texts << QString::fromLatin1(d + at + 14 + ((word(at + 12) & 0x6) ? 8 : 0), word(at + 10));
+    }
+    return sheet;
 }
 
 enum Kind { Halves, Mixed, Ordering };
@@ -109,9 +134,6 @@ class TestWorksheetFiles : public QObject
 private slots:
     void sheets_data();
     void sheets();
-    void checkFindsFaults_data();
-    void checkFindsFaults();
-    void writerReusesSlots();
     void halvesRules();
 };
 
@@ -147,20 +169,22 @@ void TestWorksheetFiles::sheets()
 
     const QByteArray bytes = readAsset(QStringLiteral("wmf/%1.wmf").arg(file));
     QVERIFY2(!bytes.isEmpty(), qPrintable(file + QStringLiteral(" is missing")));
-    const WmfCheck wmf = checkWmf(bytes);
-    QVERIFY2(wmf.problem.isEmpty(), qPrintable(wmf.problem));
+    QString error;
+    const std::optional<Metafile> wmf = Metafile::parse(bytes, &error);
+    QVERIFY2(wmf, qPrintable(error));
+    QVERIFY(wmf->checksumMatches());
+    QCOMPARE(wmf->skippedRecordCount(), 0);  // nothing in it that the program does not draw
+    // The program prints the sheet at its own size 1000 twips in from the
+    // corner, so it must fit A4 (11906 x 16838) and Letter (12240 x 15840)
+    // with that margin on every side; and it is meant to fill most of that.
+    const QSizeF twips = wmf->sizeInTwips();
+    QVERIFY2(twips.width() <= 11906 - 2000 && twips.height() <= 15840 - 2000 && twips.width() > 9000
+                 && twips.height() > 12000,
+             qPrintable(QStringLiteral("%1 x %2 twips").arg(twips.width()).arg(twips.height())));
 
-    // 6.5 x 9.3 inches: fits A4 (8.27 x 11.69) and Letter (8.5 x 11) with
-    // the 1000-twip margin the program prints it at.
-    QCOMPARE(wmf.box, QRect(0, 0, 9360, 13390));
-    QCOMPARE(wmf.inch, 1440);
-    // Pens, brushes and fonts are replaced as the drawing goes, not heaped
-    // up; the text has a font of its own.
-    QVERIFY2(wmf.objectCount >= 3 && wmf.objectCount <= 6, qPrintable(QString::number(wmf.objectCount)));
-    QCOMPARE(wmf.peakObjects, wmf.objectCount);
-    QVERIFY(wmf.functionCounts.value(0x02FB) > 0);
-
-    const QStringList &texts = wmf.texts;
+    const SheetText sheet = sheetText(bytes);
+    QVERIFY(sheet.fonts > 0);  // the text is not left in the player's default font
+    const QStringList &texts = sheet.texts;
     for (const QString &text : {label, title, instruction, QStringLiteral("Name"), QStringLiteral("Date")})
         QVERIFY2(texts.contains(text), qPrintable(text + QStringLiteral(" not in ") + texts.join(QLatin1Char('|'))));
     const QString otherEdition = QLatin1String(label.startsWith(QLatin1String("Year")) ? "Unit" : "Year");
@@ -175,78 +199,12 @@ void TestWorksheetFiles::sheets()
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
 
     // The other edition's sheet sets exercises of its own.
-    QStringList mine = texts, theirs = checkWmf(readAsset(QStringLiteral("wmf/%1.wmf").arg(twin))).texts;
+    const QByteArray twinBytes = readAsset(QStringLiteral("wmf/%1.wmf").arg(twin));
+    QVERIFY(Metafile::parse(twinBytes));
+    QStringList mine = texts, theirs = sheetText(twinBytes).texts;
     mine.removeAll(label);
     theirs.removeAll(QStringLiteral("%1 %2").arg(otherEdition).arg(twin.at(1)));
     QVERIFY(!theirs.isEmpty() && mine != theirs);
-}
-
-void TestWorksheetFiles::checkFindsFaults_data()
-{
-    // Each row spoils one thing in a sound sheet by flipping bits of one
-    // byte: of the headers, or of the first record of a function, at an
-    // offset from its start; or leaves that record out. The check must say
-    // what is wrong.
-    QTest::addColumn<int>("function");  // -1: the headers
-    QTest::addColumn<int>("offset");
-    QTest::addColumn<int>("bits");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("checksum") << -1 << 20 << 0x01 << "checksum";
-    QTest::newRow("largest record") << -1 << 22 + 12 << 0x01 << "largest record";
-    QTest::newRow("file size") << -1 << 22 + 6 << 0x01 << "words";
-    QTest::newRow("pen record size") << 0x02FA << 0 << 0x01 << "9 words";
-    QTest::newRow("select of an empty slot") << 0x012D << 6 << 0x08 << "holds no object";
-    QTest::newRow("unknown record") << 0x0418 << 5 << 0x02 << "may use";  // ELLIPSE becomes 0x0618
-    QTest::newRow("ellipse off the picture") << 0x0418 << 7 << 0x40 << "off the picture";
-    QTest::newRow("no end") << 0x0000 << 0 << 0 << "META_EOF";  // no bits: the record left out
-}
-
-void TestWorksheetFiles::checkFindsFaults()
-{
-    QFETCH(int, function);
-    QFETCH(int, offset);
-    QFETCH(int, bits);
-    QFETCH(QString, expected);
-    QByteArray b = readAsset(QStringLiteral("wmf/y2print1.wmf"));
-    QVERIFY(checkWmf(b).problem.isEmpty());
-    int at = 0;
-    if (function >= 0) {
-        for (at = 22 + 18; qFromLittleEndian<quint16>(b.constData() + at + 4) != function;)
-            at += 2 * int(qFromLittleEndian<quint32>(b.constData() + at));
-    }
-    if (bits != 0) {
-        b[at + offset] = char(b[at + offset] ^ bits);
-    } else {  // the metafile header's word count follows, so only the record is amiss
-        const quint32 words = qFromLittleEndian<quint32>(b.constData() + at);
-        b.remove(at, 2 * int(words));
-        qToLittleEndian<quint32>(qFromLittleEndian<quint32>(b.constData() + 22 + 6) - words, b.data() + 22 + 6);
-    }
-    const QString problem = checkWmf(b).problem;
-    QVERIFY2(problem.contains(expected), qPrintable(problem));
-}
-
-void TestWorksheetFiles::writerReusesSlots()
-{
-    // A new object takes the lowest free slot, as Windows gives it when the
-    // sheet is played, so each select names the object the writer meant.
-    WmfWriter w(1000, 1000);
-    QCOMPARE(w.createPen(Wmf::PenSolid, 15, Qt::black), 0);
-    QCOMPARE(w.createBrush(Wmf::BrushSolid, Qt::red), 1);
-    QCOMPARE(w.createFont(Wmf::Font()), 2);
-    w.deleteObject(1);
-    QCOMPARE(w.createBrush(Wmf::BrushNull, Qt::white), 1);
-    w.deleteObject(0);
-    w.deleteObject(1);
-    QCOMPARE(w.createPen(Wmf::PenDash, 10, Qt::blue), 0);
-    QCOMPARE(w.createPen(Wmf::PenDot, 10, Qt::blue), 1);
-    QCOMPARE(w.createPen(Wmf::PenNull, 0, Qt::blue), 3);
-    w.selectObject(3);
-    w.polygon({QPoint(0, 0), QPoint(999, 0), QPoint(500, 999)});
-
-    const WmfCheck c = checkWmf(w.finish());
-    QVERIFY2(c.problem.isEmpty(), qPrintable(c.problem));  // also: every object deleted at the end
-    QCOMPARE(c.objectCount, 4);
-    QCOMPARE(c.peakObjects, 4);
 }
 
 void TestWorksheetFiles::halvesRules()

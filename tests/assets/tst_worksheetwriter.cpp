@@ -1,0 +1,42 @@
+// The worksheet metafile writer's own rules. Kept apart from the checks of
+// the finished sheets: the writer's Wmf types and the program's reader's
+// share their names, so the two must not be linked into one program.
+#include "wmfwriter.h"
+
+#include <QtEndian>
+#include <QtTest>
+
+class TestWorksheetWriter : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void reusesSlots();
+};
+
+void TestWorksheetWriter::reusesSlots()
+{
+    // A new object takes the lowest free slot, as Windows gives it when the
+    // sheet is played, so each select names the object the writer meant.
+    WmfWriter w(1000, 1000);
+    QCOMPARE(w.createPen(Wmf::PenSolid, 15, Qt::black), 0);
+    QCOMPARE(w.createBrush(Wmf::BrushSolid, Qt::red), 1);
+    QCOMPARE(w.createFont(Wmf::Font()), 2);
+    w.deleteObject(1);
+    QCOMPARE(w.createBrush(Wmf::BrushNull, Qt::white), 1);
+    w.deleteObject(0);
+    w.deleteObject(1);
+    QCOMPARE(w.createPen(Wmf::PenDash, 10, Qt::blue), 0);
+    QCOMPARE(w.createPen(Wmf::PenDot, 10, Qt::blue), 1);
+    QCOMPARE(w.createPen(Wmf::PenNull, 0, Qt::blue), 3);
+    w.selectObject(3);
+    w.polygon({QPoint(0, 0), QPoint(999, 0), QPoint(500, 999)});
+    // The select named a live object, and the header's object table holds
+    // the four that were alive at once.
+    const QByteArray bytes = w.finish();
+    QVERIFY2(!bytes.isEmpty(), qPrintable(w.error()));
+    QCOMPARE(qFromLittleEndian<quint16>(bytes.constData() + 22 + 10), quint16(4));
+}
+
+QTEST_GUILESS_MAIN(TestWorksheetWriter)
+#include "tst_worksheetwriter.moc"
