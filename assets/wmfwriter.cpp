@@ -39,7 +39,7 @@ WmfWriter::WmfWriter(int width, int height, int unitsPerInch)
     if (!fits16(width) || !fits16(height) || unitsPerInch <= 0 || unitsPerInch > 65535)
         m_error = QStringLiteral("picture size %1 x %2 at %3 to the inch does not fit")
                       .arg(width).arg(height).arg(unitsPerInch);
-    setMapMode(Wmf::Anisotropic);
+    setMapMode(WmfOut::Anisotropic);
     setWindowOrg(0, 0);
     setWindowExt(width, height);
 }
@@ -61,7 +61,7 @@ bool WmfWriter::isLive(int slot) const
     return slot >= 0 && slot < m_live.size() && m_live[slot];
 }
 
-void WmfWriter::record(Wmf::Function function, const QByteArray &params)
+void WmfWriter::record(WmfOut::Function function, const QByteArray &params)
 {
     if (m_finished) {
         if (m_error.isEmpty())
@@ -75,28 +75,28 @@ void WmfWriter::record(Wmf::Function function, const QByteArray &params)
     m_largestRecord = std::max(m_largestRecord, words);
 }
 
-int WmfWriter::createPen(Wmf::PenStyle style, int width, const QColor &colour)
+int WmfWriter::createPen(WmfOut::PenStyle style, int width, const QColor &colour)
 {
     QByteArray p;
     put16(p, style);
     put16(p, width);  // the pen's width is the x of a point whose y is unused
     put16(p, 0);
     putColour(p, colour);
-    record(Wmf::CreatePenIndirect, p);
+    record(WmfOut::CreatePenIndirect, p);
     return takeSlot();
 }
 
-int WmfWriter::createBrush(Wmf::BrushStyle style, const QColor &colour)
+int WmfWriter::createBrush(WmfOut::BrushStyle style, const QColor &colour)
 {
     QByteArray p;
     put16(p, style);
     putColour(p, colour);
     put16(p, 0);  // hatch, unused by solid and hollow brushes
-    record(Wmf::CreateBrushIndirect, p);
+    record(WmfOut::CreateBrushIndirect, p);
     return takeSlot();
 }
 
-int WmfWriter::createFont(const Wmf::Font &font)
+int WmfWriter::createFont(const WmfOut::Font &font)
 {
     QByteArray p;
     put16(p, font.height);
@@ -116,7 +116,7 @@ int WmfWriter::createFont(const Wmf::Font &font)
     QByteArray face = font.face.left(31);
     face.append(QByteArray(32 - face.size(), '\0'));
     p.append(face);
-    record(Wmf::CreateFontIndirect, p);
+    record(WmfOut::CreateFontIndirect, p);
     return takeSlot();
 }
 
@@ -126,7 +126,7 @@ void WmfWriter::selectObject(int slot)
         m_error = QStringLiteral("select of empty slot %1").arg(slot);
     QByteArray p;
     put16(p, slot);
-    record(Wmf::SelectObject, p);
+    record(WmfOut::SelectObject, p);
 }
 
 void WmfWriter::deleteObject(int slot)
@@ -139,14 +139,14 @@ void WmfWriter::deleteObject(int slot)
     }
     QByteArray p;
     put16(p, slot);
-    record(Wmf::DeleteObject, p);
+    record(WmfOut::DeleteObject, p);
 }
 
-void WmfWriter::setMapMode(Wmf::MapMode mode)
+void WmfWriter::setMapMode(WmfOut::MapMode mode)
 {
     QByteArray p;
     put16(p, mode);
-    record(Wmf::SetMapMode, p);
+    record(WmfOut::SetMapMode, p);
 }
 
 void WmfWriter::setWindowOrg(int x, int y)
@@ -154,7 +154,7 @@ void WmfWriter::setWindowOrg(int x, int y)
     QByteArray p;
     put16(p, y);
     put16(p, x);
-    record(Wmf::SetWindowOrg, p);
+    record(WmfOut::SetWindowOrg, p);
 }
 
 void WmfWriter::setWindowExt(int width, int height)
@@ -162,28 +162,28 @@ void WmfWriter::setWindowExt(int width, int height)
     QByteArray p;
     put16(p, height);
     put16(p, width);
-    record(Wmf::SetWindowExt, p);
+    record(WmfOut::SetWindowExt, p);
 }
 
 void WmfWriter::setTextColor(const QColor &colour)
 {
     QByteArray p;
     putColour(p, colour);
-    record(Wmf::SetTextColor, p);
+    record(WmfOut::SetTextColor, p);
 }
 
-void WmfWriter::setBkMode(Wmf::BkMode mode)
+void WmfWriter::setBkMode(WmfOut::BkMode mode)
 {
     QByteArray p;
     put16(p, mode);
-    record(Wmf::SetBkMode, p);
+    record(WmfOut::SetBkMode, p);
 }
 
 void WmfWriter::setTextAlign(int flags)
 {
     QByteArray p;
     put16(p, flags);
-    record(Wmf::SetTextAlign, p);
+    record(WmfOut::SetTextAlign, p);
 }
 
 void WmfWriter::moveTo(int x, int y)
@@ -193,7 +193,7 @@ void WmfWriter::moveTo(int x, int y)
     QByteArray p;
     put16(p, y);
     put16(p, x);
-    record(Wmf::MoveTo, p);
+    record(WmfOut::MoveTo, p);
 }
 
 void WmfWriter::lineTo(int x, int y)
@@ -203,7 +203,7 @@ void WmfWriter::lineTo(int x, int y)
     QByteArray p;
     put16(p, y);
     put16(p, x);
-    record(Wmf::LineTo, p);
+    record(WmfOut::LineTo, p);
 }
 
 // Rectangle-like records list the edges bottom, right, top, left.
@@ -219,7 +219,7 @@ static QByteArray edges(const QRect &r)
 
 void WmfWriter::rectangle(const QRect &r)
 {
-    record(Wmf::Rectangle, edges(r));
+    record(WmfOut::Rectangle, edges(r));
 }
 
 void WmfWriter::roundRect(const QRect &r, int cornerWidth, int cornerHeight)
@@ -228,15 +228,15 @@ void WmfWriter::roundRect(const QRect &r, int cornerWidth, int cornerHeight)
     put16(p, cornerHeight);
     put16(p, cornerWidth);
     p.append(edges(r));
-    record(Wmf::RoundRect, p);
+    record(WmfOut::RoundRect, p);
 }
 
 void WmfWriter::ellipse(const QRect &r)
 {
-    record(Wmf::Ellipse, edges(r));
+    record(WmfOut::Ellipse, edges(r));
 }
 
-void WmfWriter::points(Wmf::Function function, const QVector<QPoint> &points)
+void WmfWriter::points(WmfOut::Function function, const QVector<QPoint> &points)
 {
     if ((points.size() < 2 || points.size() > 32767) && m_error.isEmpty())
         m_error = QStringLiteral("%1 points").arg(points.size());
@@ -253,21 +253,21 @@ void WmfWriter::points(Wmf::Function function, const QVector<QPoint> &points)
 
 void WmfWriter::polygon(const QVector<QPoint> &pts)
 {
-    points(Wmf::Polygon, pts);
+    points(WmfOut::Polygon, pts);
 }
 
 void WmfWriter::polyline(const QVector<QPoint> &pts)
 {
-    points(Wmf::Polyline, pts);
+    points(WmfOut::Polyline, pts);
 }
 
-void WmfWriter::text(Wmf::Function function, int x, int y, const QByteArray &text)
+void WmfWriter::text(WmfOut::Function function, int x, int y, const QByteArray &text)
 {
     QByteArray padded = text;
     if (padded.size() % 2)
         padded.append('\0');
     QByteArray p;
-    if (function == Wmf::TextOut) {
+    if (function == WmfOut::TextOut) {
         put16(p, int(text.size()));
         p.append(padded);
         put16(p, y);
@@ -285,18 +285,18 @@ void WmfWriter::text(Wmf::Function function, int x, int y, const QByteArray &tex
 
 void WmfWriter::textOut(int x, int y, const QByteArray &t)
 {
-    text(Wmf::TextOut, x, y, t);
+    text(WmfOut::TextOut, x, y, t);
 }
 
 void WmfWriter::extTextOut(int x, int y, const QByteArray &t)
 {
-    text(Wmf::ExtTextOut, x, y, t);
+    text(WmfOut::ExtTextOut, x, y, t);
 }
 
 QByteArray WmfWriter::placeableHeader(const QRect &box, int unitsPerInch)
 {
     QByteArray h;
-    put32(h, Wmf::PlaceableKey);
+    put32(h, WmfOut::PlaceableKey);
     put16(h, 0);  // no window handle
     put16(h, box.x());
     put16(h, box.y());
@@ -323,14 +323,14 @@ QByteArray WmfWriter::finish()
     for (int slot = 0; slot < m_live.size(); ++slot)
         if (m_live[slot])
             deleteObject(slot);
-    record(Wmf::Eof, QByteArray());
+    record(WmfOut::Eof, QByteArray());
     m_finished = true;
     if (!m_error.isEmpty())
         return QByteArray();
 
     QByteArray file = placeableHeader(m_box, m_unitsPerInch);
     put16(file, 1);       // metafile type 1, as .wmf files carry
-    put16(file, Wmf::HeaderWords);
+    put16(file, WmfOut::HeaderWords);
     put16(file, 0x0300);  // Windows 3.0 and later
     put32(file, std::uint32_t(metafileWords()));
     put16(file, m_tableSize);

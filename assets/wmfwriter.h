@@ -17,7 +17,7 @@
 
 #include <cstdint>
 
-namespace Wmf {
+namespace WmfOut {
 
 // Record functions (the low byte numbers the function, the high byte is the
 // parameter count Windows gave it).
@@ -72,7 +72,7 @@ struct Font
     std::uint8_t pitchAndFamily = 0x22;
 };
 
-} // namespace Wmf
+} // namespace WmfOut
 
 class WmfWriter
 {
@@ -81,19 +81,19 @@ public:
     WmfWriter(int width, int height, int unitsPerInch = 1440);
 
     // Object table. Each create returns the slot the new object took.
-    int createPen(Wmf::PenStyle style, int width, const QColor &colour);
-    int createBrush(Wmf::BrushStyle style, const QColor &colour);
-    int createFont(const Wmf::Font &font);
+    int createPen(WmfOut::PenStyle style, int width, const QColor &colour);
+    int createBrush(WmfOut::BrushStyle style, const QColor &colour);
+    int createFont(const WmfOut::Font &font);
     void selectObject(int slot);
     void deleteObject(int slot);
     bool isLive(int slot) const;
 
     // Device context state.
-    void setMapMode(Wmf::MapMode mode);
+    void setMapMode(WmfOut::MapMode mode);
     void setWindowOrg(int x, int y);
     void setWindowExt(int width, int height);
     void setTextColor(const QColor &colour);
-    void setBkMode(Wmf::BkMode mode);
+    void setBkMode(WmfOut::BkMode mode);
     void setTextAlign(int flags);
 
     // Drawing. Rectangles and ellipses are drawn from left/top to
@@ -120,7 +120,7 @@ public:
     // What the headers will say (valid at any time; final after finish()).
     int objectTableSize() const { return m_tableSize; }
     int largestRecordWords() const { return m_largestRecord; }
-    int metafileWords() const { return Wmf::HeaderWords + m_records.size() / 2; }
+    int metafileWords() const { return WmfOut::HeaderWords + m_records.size() / 2; }
 
     static QByteArray placeableHeader(const QRect &box, int unitsPerInch);
     // XOR of the first ten 16-bit words of a placeable header.
@@ -129,9 +129,9 @@ public:
 private:
     int takeSlot();
     // params: the record's parameters, little-endian, an even number of bytes.
-    void record(Wmf::Function function, const QByteArray &params);
-    void points(Wmf::Function function, const QVector<QPoint> &points);
-    void text(Wmf::Function function, int x, int y, const QByteArray &text);
+    void record(WmfOut::Function function, const QByteArray &params);
+    void points(WmfOut::Function function, const QVector<QPoint> &points);
+    void text(WmfOut::Function function, int x, int y, const QByteArray &text);
 
     QRect m_box;
     int m_unitsPerInch;

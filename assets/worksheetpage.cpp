@@ -22,11 +22,11 @@ const QColor kRule(120, 120, 130);
 WorksheetPage::WorksheetPage()
     : m_wmf(Width, Height, 1440)
 {
-    m_wmf.setBkMode(Wmf::Transparent);
+    m_wmf.setBkMode(WmfOut::Transparent);
     setTextColour(kInk);
 }
 
-void WorksheetPage::setPen(const QColor &colour, int width, Wmf::PenStyle style)
+void WorksheetPage::setPen(const QColor &colour, int width, WmfOut::PenStyle style)
 {
     const QString key = QStringLiteral("%1/%2/%3").arg(colourKey(colour)).arg(width).arg(style);
     if (key == m_penKey)
@@ -43,7 +43,7 @@ void WorksheetPage::setPen(const QColor &colour, int width, Wmf::PenStyle style)
 
 void WorksheetPage::setNoPen()
 {
-    setPen(Qt::black, 0, Wmf::PenNull);
+    setPen(Qt::black, 0, WmfOut::PenNull);
 }
 
 void WorksheetPage::setBrush(const QColor &colour)
@@ -51,7 +51,7 @@ void WorksheetPage::setBrush(const QColor &colour)
     const QString key = colourKey(colour);
     if (key == m_brushKey)
         return;
-    const int brush = m_wmf.createBrush(Wmf::BrushSolid, colour);
+    const int brush = m_wmf.createBrush(WmfOut::BrushSolid, colour);
     m_wmf.selectObject(brush);
     if (m_brush >= 0)
         m_wmf.deleteObject(m_brush);
@@ -63,7 +63,7 @@ void WorksheetPage::setNoBrush()
 {
     if (m_brushKey == QLatin1String("none"))
         return;
-    const int brush = m_wmf.createBrush(Wmf::BrushNull, Qt::black);
+    const int brush = m_wmf.createBrush(WmfOut::BrushNull, Qt::black);
     m_wmf.selectObject(brush);
     if (m_brush >= 0)
         m_wmf.deleteObject(m_brush);
@@ -76,7 +76,7 @@ void WorksheetPage::setFont(Face face, int size, bool bold)
     const QString key = QStringLiteral("%1/%2/%3").arg(int(face)).arg(size).arg(bold);
     if (key == m_fontKey)
         return;
-    Wmf::Font font;
+    WmfOut::Font font;
     font.face = face == Serif ? QByteArrayLiteral("Times New Roman") : QByteArrayLiteral("Arial");
     font.pitchAndFamily = face == Serif ? 0x12 : 0x22;
     font.height = -size;
@@ -137,13 +137,13 @@ void WorksheetPage::place(int x, int baseline, const QString &text, Qt::Alignmen
 {
     const QFontMetricsF metrics(measuringFont());
     const double advance = metrics.horizontalAdvance(text);
-    int flags = Wmf::AlignBaseline;
+    int flags = WmfOut::AlignBaseline;
     double left = x;
     if (how & Qt::AlignHCenter) {
-        flags |= Wmf::AlignCenter;
+        flags |= WmfOut::AlignCenter;
         left = x - advance / 2;
     } else if (how & Qt::AlignRight) {
-        flags |= Wmf::AlignRight;
+        flags |= WmfOut::AlignRight;
         left = x - advance;
     }
     align(flags);

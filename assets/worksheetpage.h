@@ -32,7 +32,7 @@ public:
 
     WorksheetPage();
 
-    void setPen(const QColor &colour, int width = 15, Wmf::PenStyle style = Wmf::PenSolid);
+    void setPen(const QColor &colour, int width = 15, WmfOut::PenStyle style = WmfOut::PenSolid);
     void setNoPen();
     void setBrush(const QColor &colour);
     void setNoBrush();
