@@ -1,6 +1,5 @@
-// The worksheet metafile writer's own rules. Kept apart from the checks of
-// the finished sheets: the writer's Wmf types and the program's reader's
-// share their names, so the two must not be linked into one program.
+// The worksheet metafile writer's own rules: the header's sums and the
+// object slots it hands out.
 #include "wmfwriter.h"
 
 #include <QtEndian>
