@@ -33,8 +33,7 @@ class TestForms : public QObject {
     Q_OBJECT
 private slots:
     void init();
-    void loadingRunsTheLoadStepsOncePerLoad();
-    void unloadingStopsTimersAndDeletes();
+    void loadingRunsTheLoadStepsOnceAndUnloadingStopsAndDeletes();
     void showAndUnloadMovesFromScreenToScreen();
     void timersNeverTickFasterThanTheDisplay();
     void twipsBecomePixelsInOnePlace();
@@ -48,7 +47,7 @@ void TestForms::init()
     Probe::built = Probe::loads = 0;
 }
 
-void TestForms::loadingRunsTheLoadStepsOncePerLoad()
+void TestForms::loadingRunsTheLoadStepsOnceAndUnloadingStopsAndDeletes()
 {
     QVERIFY(!Forms::isLoaded("Probe"));
     Probe* p = Forms::load<Probe>();
@@ -56,23 +55,16 @@ void TestForms::loadingRunsTheLoadStepsOncePerLoad()
     QCOMPARE(Forms::show<Probe>(), p); // already loaded: same screen, no new load
     QVERIFY(p->isVisible());
     QCOMPARE(Probe::loads, 1);
+    QPointer<Probe> gone = p;
+    p->Timer1->setEnabled(true);
     Forms::unload("Probe");
     QVERIFY(!Forms::isLoaded("Probe"));
+    QVERIFY(!p->Timer1->isActive() && !p->isVisible()); // nothing of it runs any more
+    TestSupport::flushUnloads();
+    QVERIFY(gone.isNull());
     Forms::show("Probe"); // afresh
     QCOMPARE(Probe::built, 2);
     QCOMPARE(Probe::loads, 2);
-}
-
-void TestForms::unloadingStopsTimersAndDeletes()
-{
-    QPointer<Probe> p = Forms::show<Probe>();
-    p->Timer1->setEnabled(true);
-    QVERIFY(p->Timer1->isEnabled());
-    Forms::unload(p.data());
-    QVERIFY(!p->Timer1->isActive()); // nothing of it runs any more
-    QVERIFY(!p->isVisible());
-    TestSupport::flushUnloads();
-    QVERIFY(p.isNull());
 }
 
 void TestForms::showAndUnloadMovesFromScreenToScreen()

@@ -27,8 +27,7 @@ private slots:
     void choicesAreWrittenWhenClicked();
     void anUnwritableFolderKeepsTheChoiceForThisRun();
     void theSphereTurnsAndWraps();
-    void theDoorLeadsBackToATitleThatCanCancel();
-    void exitEndsTheProgram();
+    void theDoorLeadsBackToATitleThatCanCancelOrExit();
 
 private:
     Titlefrm* startTitle(const QByteArray& edition, const QByteArray& sound);
@@ -159,28 +158,24 @@ void TestStartup::theSphereTurnsAndWraps()
     QCOMPARE(QSet<QString>(seen.begin(), seen.end()).size(), 50);
 }
 
-void TestStartup::theDoorLeadsBackToATitleThatCanCancel()
+void TestStartup::theDoorLeadsBackToATitleThatCanCancelOrExit()
 {
     Titlefrm* title = startTitle("0", "0");
     QTest::mouseClick(title->Command1, Qt::LeftButton);
-    Year* year = Forms::find<Year>();
-    QVERIFY(year);
-    QCOMPARE(year->Command4->property("picturePath").toString(), QString("ico\\door2.ico"));
-    QTest::mouseClick(year->Command4, Qt::LeftButton);
-    TestSupport::flushUnloads();
-    QCOMPARE(TestSupport::visibleForms(), QStringList{"Titlefrm"});
-    title = Forms::find<Titlefrm>();
-    QCOMPARE(title->Command1->text(), QString("Cancel"));
-    QVERIFY(title->Command2->isEnabled());
-    QTest::mouseClick(title->Command1, Qt::LeftButton);
-    TestSupport::flushUnloads();
-    QCOMPARE(TestSupport::visibleForms(), QStringList{"Year"});
-}
-
-void TestStartup::exitEndsTheProgram()
-{
-    Titlefrm* title = startTitle("1", "0");
-    QTest::mouseClick(title->Command2, Qt::LeftButton);
+    for (const bool cancel : {true, false}) {
+        Year* year = Forms::find<Year>();
+        QVERIFY(year);
+        QCOMPARE(year->Command4->property("picturePath").toString(), QString("ico\\door2.ico"));
+        QTest::mouseClick(year->Command4, Qt::LeftButton);
+        TestSupport::flushUnloads();
+        QCOMPARE(TestSupport::visibleForms(), QStringList{"Titlefrm"});
+        title = Forms::find<Titlefrm>();
+        QCOMPARE(title->Command1->text(), QString("Cancel"));
+        QVERIFY(title->Command2->isEnabled());
+        QTest::mouseClick(cancel ? title->Command1 : title->Command2, Qt::LeftButton);
+        TestSupport::flushUnloads();
+        QCOMPARE(TestSupport::visibleForms(), cancel ? QStringList{"Year"} : QStringList());
+    }
     QVERIFY(Forms::programEnded());
     QVERIFY(Forms::loadedNames().isEmpty());
 }
