@@ -1,14 +1,13 @@
 #include "rewards/grey.h"
-#include "rewards/reward.h"
 #include "runtime/formtimer.h"
 #include "runtime/picturebox.h"
 #include "runtime/twips.h"
 #include "shell/activityform.h"
 #include "testsupport.h"
 
-#include <QLabel>
 #include <QPushButton>
 #include <QtTest>
+#include <tuple>
 
 using namespace Module1;
 
@@ -27,13 +26,11 @@ private slots:
     void rewardFramesEndOnTwenty_data();
     void rewardFramesEndOnTwenty();
     void pickpictureChoosesSetAndPlace();
-    void aRepeatedChallengeKeepsThePicture();
-    void nextpicturePausesTheScreenUntilTheLastAnswer();
     void setupformLaysOutTheActivity();
     void hcfCountsDownFromB_data();
     void hcfCountsDownFromB();
     void randomdecimalNeverEndsInZero();
-    void showwelldoneAndShowrewardLoadAfresh();
+    void showwelldoneLoadsAfresh();
 
 private:
     TestSupport::World world;
@@ -41,117 +38,87 @@ private:
 
 void TestModule1::praiseGivesOnlyTheTwelvePhrases()
 {
-    QSet<QString> seen;
+    QSet<QString> seen, expected;
     for (int i = 0; i < 2000; ++i) {
         praise();
         seen.insert(praisetext);
     }
-    QSet<QString> expected;
     for (const char* p : kPraise)
         expected.insert(QString::fromLatin1(p));
-    QCOMPARE(seen, expected);
-    QVERIFY(expected.contains("Yipee! "));
     QCOMPARE(expected.size(), 12);
-    for (const QString& p : expected)
-        QVERIFY(p.endsWith("! ") && !p.endsWith("  "));
+    QCOMPARE(seen, expected);
 }
 
 void TestModule1::rewardFramesEndOnTwenty_data()
 {
     QTest::addColumn<int>("length");
-    QTest::addColumn<QStringList>("frames");
-    QStringList even, all;
-    for (int f = 2; f <= 20; f += 2)
-        even << QString("%1").arg(f, 2, 10, QChar('0'));
-    for (int f = 1; f <= 20; ++f)
-        all << QString("%1").arg(f, 2, 10, QChar('0'));
-    QTest::newRow("10 questions") << 10 << even;
-    QTest::newRow("20 questions") << 20 << all;
+    QTest::addColumn<QString>("frames"); // after each answer; past the last, frame 20 stays
+    QTest::newRow("10 questions") << 10 << "02 04 06 08 10 12 14 16 18 20 20";
+    QTest::newRow("20 questions") << 20 << "01 02 03 04 05 06 07 08 09 10 11 12 13 14 15 16 17 18 19 20 20";
 }
 
 void TestModule1::rewardFramesEndOnTwenty()
 {
     QFETCH(int, length);
-    QFETCH(QStringList, frames);
+    QFETCH(QString, frames);
     Activity form;
+    form.show();
     questions = length;
     pickpicture(form);
     QVERIFY(!form.Image2->isVisible());
     QCOMPARE(form.Image2->picturePath(), "jpg2\\" + picset + "00.jpg");
-    QStringList shown;
-    for (int answer = 1; answer <= length; ++answer) {
-        counter = answer;
+    Grey* grey = Forms::load<Grey>();
+    QStringList shown, expected;
+    for (counter = 1; counter <= length + 1; ++counter) {
+        form.setEnabled(true);
+        form.cmdhint->setEnabled(true);
+        grey->Timer1->setEnabled(false);
         nextpicture(form);
-        shown << form.Image2->picturePath().mid(5 + picset.size(), 2);
-        QVERIFY(form.Image2->isVisibleTo(&form));
-        QCOMPARE(form.Image2->picturePath(), rewardFrameFile(picset, frames[answer - 1].toInt()));
+        shown << form.Image2->picturePath();
+        QVERIFY(form.Image2->isVisible() && !form.cmdhint->isEnabled());
+        // Until the last answer the screen waits for the stars; then the run is over.
+        QCOMPARE(form.isEnabled(), counter >= length);
+        QCOMPARE(grey->Timer1->isEnabled(), counter < length);
+        QVERIFY(!grey->isVisible());
     }
-    QCOMPARE(shown, frames);
+    for (const QString& f : frames.split(' '))
+        expected << "jpg2\\" + picset + f + ".jpg";
+    QCOMPARE(shown, expected);
 }
 
 void TestModule1::pickpictureChoosesSetAndPlace()
 {
-    Activity plain;
-    Activity y3("y3fract3");
+    Activity plain, y3("y3fract3");
+    challenge = 2; // a failed Challenge before any run still needs a set
+    pickpicture(plain);
+    QVERIFY(!picset.isEmpty());
     QSet<QString> sets, y3sets;
     for (int i = 0; i < 3000; ++i) {
-        challenge = i % 2; // a new run, in practice or in the Challenge
+        // A new run in practice or in the Challenge; every third pick follows
+        // a failed Challenge, which builds the same picture in the same place.
+        const QString last = picset;
+        const int lastTop = plain.Image2->y();
+        challenge = i % 3;
+        counter = 7;
+        plain.Image2->show();
         pickpicture(plain);
         sets.insert(picset);
         QCOMPARE(counter, 0);
+        QVERIFY(!plain.Image2->isVisibleTo(&plain));
+        QCOMPARE(plain.Image2->picturePath(), "jpg2\\" + picset + "00.jpg");
         const bool tall = picset == "thermo" || picset == "cake" || picset == "greenb";
         QCOMPARE(plain.Image2->y(), Twips::toPixels(tall ? 600 : 1200));
+        if (challenge == 2)
+            QVERIFY(picset == last && plain.Image2->y() == lastTop);
+    }
+    challenge = 0;
+    for (int i = 0; i < 1000; ++i) {
         pickpicture(y3);
         y3sets.insert(picset);
     }
     QCOMPARE(sets.size(), 10);
     QCOMPARE(y3sets.size(), 9);
     QVERIFY(!y3sets.contains("sphfra"));
-}
-
-void TestModule1::aRepeatedChallengeKeepsThePicture()
-{
-    Activity form;
-    challenge = 1;
-    pickpicture(form);
-    const QString first = picset;
-    const int top = form.Image2->y();
-    questions = 10;
-    counter = 3;
-    nextpicture(form);
-    challenge = 2; // a wrong answer in the Challenge
-    for (int i = 0; i < 50; ++i) {
-        pickpicture(form);
-        QCOMPARE(picset, first);
-        QCOMPARE(form.Image2->y(), top);
-        QCOMPARE(counter, 0);
-        QCOMPARE(form.Image2->picturePath(), rewardFrameFile(first, 0));
-        QVERIFY(!form.Image2->isVisibleTo(&form));
-    }
-}
-
-void TestModule1::nextpicturePausesTheScreenUntilTheLastAnswer()
-{
-    Activity form;
-    form.show();
-    questions = 10;
-    pickpicture(form);
-    form.cmdhint->setEnabled(true);
-    counter = 9;
-    nextpicture(form);
-    QVERIFY(!form.cmdhint->isEnabled());
-    QVERIFY(!form.isEnabled()); // until the next question gives it back
-    Grey* grey = Forms::find<Grey>();
-    QVERIFY(grey && grey->Timer1->isEnabled());
-    QVERIFY(!grey->isVisible());
-
-    grey->Timer1->setEnabled(false);
-    form.setEnabled(true);
-    counter = 10; // the last answer: no stars, the run is over
-    nextpicture(form);
-    QVERIFY(form.isEnabled());
-    QVERIFY(!grey->Timer1->isEnabled());
-    QCOMPARE(form.Image2->picturePath(), rewardFrameFile(picset, 20));
 }
 
 void TestModule1::setupformLaysOutTheActivity()
@@ -162,17 +129,15 @@ void TestModule1::setupformLaysOutTheActivity()
     QCOMPARE(questions, 20);
     QCOMPARE(form.size(), QSize(632, 434)); // ScaleWidth 9480 x ScaleHeight 6510
     QCOMPARE(form.backColour(), QColor(48, 133, 214));
-    const QList<QPair<QPushButton*, int>> lefts = {
-        {form.cmdprint, 120}, {form.cmdstart, 2067}, {form.cmdcheck, 4014}, {form.cmdhint, 5961}, {form.cmdexit, 7910}};
-    for (const auto& [button, left] : lefts)
+    const QList<std::tuple<QPushButton*, int, QString>> buttons = {{form.cmdprint, 120, "Print A Worksheet"},
+        {form.cmdstart, 2067, "Press To Start"}, {form.cmdcheck, 4014, "Check Your Answer"},
+        {form.cmdhint, 5961, "Get Some Help"}, {form.cmdexit, 7910, "Goodbye"}};
+    for (const auto& [button, left, tip] : buttons) {
         QCOMPARE(button->pos(), QPoint(Twips::toPixels(left), Twips::toPixels(280)));
-    QCOMPARE(form.Picture1->x(), Twips::toPixels(1300));
+        QCOMPARE(button->toolTip(), tip);
+    }
     QCOMPARE(form.cmdprint->text(), QString("Print A Worksheet"));
-    QCOMPARE(form.cmdcheck->toolTip(), QString("Check Your Answer"));
-    QCOMPARE(form.cmdstart->toolTip(), QString("Press To Start"));
-    QCOMPARE(form.cmdhint->toolTip(), QString("Get Some Help"));
-    QCOMPARE(form.cmdexit->toolTip(), QString("Goodbye"));
-    QCOMPARE(form.cmdprint->toolTip(), QString("Print A Worksheet"));
+    QCOMPARE(form.Picture1->x(), Twips::toPixels(1300));
     // Centred on the display, by its outer size of 9600 x 7200 twips.
     const QRect display = QGuiApplication::primaryScreen()->geometry();
     QCOMPARE(form.x(), display.x() + Twips::toPixels(Twips::fromPixels(display.width()) / 2 - 4800));
@@ -188,9 +153,7 @@ void TestModule1::hcfCountsDownFromB_data()
     QTest::newRow("12, 18") << 12 << 18 << 6;
     QTest::newRow("5, 0") << 5 << 0 << 0;
     QTest::newRow("-4, -6") << -4 << -6 << 2;
-    QTest::newRow("11, 4 coprime") << 11 << 4 << 1;
     QTest::newRow("0, 7") << 0 << 7 << 7;
-    QTest::newRow("99, 9") << 99 << 9 << 9;
 }
 
 void TestModule1::hcfCountsDownFromB()
@@ -211,9 +174,8 @@ void TestModule1::hcfCountsDownFromB()
 
 void TestModule1::randomdecimalNeverEndsInZero()
 {
-    const QList<QPair<int, int>> cases = {{3, 1}, {3, 2}, {3, 3}, {5, 7}, {1, 0}};
-    for (const auto& [whole, places] : cases) {
-        const int digits = (places == 1 || places == 2) ? places : 3;
+    const QList<std::tuple<int, int, int>> cases = {{3, 1, 1}, {3, 2, 2}, {3, 3, 3}, {5, 7, 3}, {1, 0, 3}};
+    for (const auto& [whole, places, digits] : cases) {
         QSet<QChar> seen;
         for (int seed = 0; seed < 2000; ++seed) {
             Random::fixSeed(seed);
@@ -230,7 +192,7 @@ void TestModule1::randomdecimalNeverEndsInZero()
     }
 }
 
-void TestModule1::showwelldoneAndShowrewardLoadAfresh()
+void TestModule1::showwelldoneLoadsAfresh()
 {
     showwelldone("Halves and Quarters 2");
     QPointer<Form> first = Forms::find("Welldone");
@@ -240,14 +202,6 @@ void TestModule1::showwelldoneAndShowrewardLoadAfresh()
     TestSupport::flushUnloads();
     QVERIFY(first.isNull());
     QVERIFY(Forms::find("Welldone")->isVisible());
-
-    showreward();
-    Reward* reward = Forms::find<Reward>();
-    QVERIFY(reward && reward->isVisible());
-    QCOMPARE(retry, 0); // the retry screen took the message and cleared the flag
-    QVERIFY(reward->Label1->isVisibleTo(reward));
-    QVERIFY(reward->Timer2->isEnabled());
-    QVERIFY(!reward->Timer1->isEnabled());
 }
 
 QTEST_MAIN(TestModule1)
