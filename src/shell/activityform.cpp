@@ -1,9 +1,12 @@
 #include "activityform.h"
 
 #include "runtime/picturebox.h"
+#include "module1.h"
 #include "runtime/twips.h"
 
+#include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 
 namespace {
 QPushButton* commonButton(QWidget* parent, const char* name)
@@ -14,6 +17,22 @@ QPushButton* commonButton(QWidget* parent, const char* name)
     button->setIconSize(QSize(32, 32));
     return button;
 }
+
+QRadioButton* questionsOption(QWidget* parent, const char* name, const char* caption, int length)
+{
+    auto* option = new QRadioButton(QString::fromLatin1(caption), parent);
+    option->setObjectName(QString::fromLatin1(name));
+    QObject::connect(option, &QRadioButton::clicked, option, [length] { Module1::questions = length; });
+    return option;
+}
+
+// Where the end-of-run label stands when it says the child is ready, in twips.
+constexpr int kReadyLeft = 4035;
+constexpr int kReadyTop = 1200;
+constexpr int kReadyWidth = 4860;
+constexpr int kReadyHeight = 3930;
+constexpr int kShortRun = 10;
+constexpr int kLongRun = 20;
 } // namespace
 
 ActivityForm::ActivityForm(const QString& name, QWidget* parent)
@@ -25,7 +44,44 @@ ActivityForm::ActivityForm(const QString& name, QWidget* parent)
     , cmdexit(commonButton(this, "cmdexit"))
     , Picture1(new PictureBox(this, QStringLiteral("Picture1")))
     , Image2(new PictureBox(this, QStringLiteral("Image2")))
+    , Option1(questionsOption(this, "Option1", "10 Questions", kShortRun))
+    , Option2(questionsOption(this, "Option2", "20 Questions", kLongRun))
 {
     Image2->setAutoSize(true);
     Image2->hide();
+}
+
+void ActivityForm::loadButtonPictures()
+{
+    cmdprint->setText(QStringLiteral("Print WorkSheet"));
+    cmdstart->setText(QStringLiteral("Start"));
+    cmdcheck->setText(QStringLiteral("Check Answers"));
+    cmdhint->setText(QStringLiteral("Hint"));
+    cmdexit->setText(QStringLiteral("Exit"));
+    setButtonPicture(cmdexit, QStringLiteral("ico\\door2.ico"));
+    setButtonPicture(cmdstart, QStringLiteral("ico\\trffc10a.ico"));
+    setButtonPicture(cmdprint, QStringLiteral("ico\\print.bmp"));
+    setButtonPicture(cmdcheck, QStringLiteral("ico\\quest.ico"));
+    setButtonPicture(cmdhint, QStringLiteral("ico\\hand.ico"));
+    setIconPicture(QStringLiteral("ico\\fraction.ico"));
+}
+
+void ActivityForm::showQuestionsChoice()
+{
+    Option1->setChecked(Module1::questions == kShortRun);
+    Option2->setChecked(Module1::questions == kLongRun);
+}
+
+QString ActivityForm::readyText(const QString& streakText)
+{
+    return QStringLiteral("  You are now ready for the Challenge.  ") + streakText
+        + QStringLiteral(" correct answers on the run, with no hints. Click Start to take the Challenge.");
+}
+
+void ActivityForm::showReadyMessage(QLabel* label, const QString& streakText)
+{
+    label->hide();
+    Twips::place(label, kReadyLeft, kReadyTop, kReadyWidth, kReadyHeight);
+    label->setText(readyText(streakText));
+    label->show();
 }

@@ -6,7 +6,9 @@
 // its reward picture "Image2(0)").
 #include "runtime/form.h"
 
+class QLabel;
 class QPushButton;
+class QRadioButton;
 class PictureBox;
 
 class ActivityForm : public Form {
@@ -21,6 +23,19 @@ public:
     QPushButton* cmdexit;
     PictureBox* Picture1;
     PictureBox* Image2;
+    // "10 Questions" and "20 Questions": a click sets the run's length.
+    QRadioButton* Option1;
+    QRadioButton* Option2;
+
+    // The buttons' design captions and pictures, and the screen's icon, as
+    // every activity loads them.
+    void loadButtonPictures();
+    // Ticks the option that matches the run's length.
+    void showQuestionsChoice();
+    // Hides the end-of-run label, moves it to the middle of the screen and
+    // shows it again with the ready-for-the-Challenge text around streakText.
+    static void showReadyMessage(QLabel* label, const QString& streakText);
+    static QString readyText(const QString& streakText);
 
     // Size of each of the five common buttons, in twips.
     static constexpr int kButtonWidth = 1455;
