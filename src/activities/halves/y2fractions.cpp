@@ -324,6 +324,7 @@ void Y2fractions::cmdstart_Click()
     cmdprint->setEnabled(true);
     cmdexit->setEnabled(true);
     Frame1->show();
+    showQuestionsChoice(); // the certificate may have set the run's length
     Timer3->setEnabled(false);
     newquestion();
     cmdcheck->setFocus();
