@@ -401,55 +401,45 @@ void TestAssetFiles::animations()
 
 void TestAssetFiles::halvesPictures_data()
 {
-    // The six pictures of Halves and Quarters: the file, the next one (which
-    // must look different), and the least share of their solid pixels in
-    // clear colours (the grey gorilla and spider have none to speak of).
+    // The six pictures of Halves and Quarters, and the least share of their
+    // solid pixels in clear colours (the grey gorilla and spider have none).
     QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("next");
     QTest::addColumn<double>("colourful");
-    const struct { const char *name, *file; double colourful; } pictures[] = {
-        {"holly", "leaf", 0.8},         {"ducks", "wb01747_", 0.5},   {"suns", "wb01330_", 0.9},
-        {"dinosaurs", "wb01742_", 0.9}, {"spiders", "wb01299_", 0.0}, {"gorillas", "wb01746_", 0.0},
-    };
-    for (int i = 0; i < 6; ++i)
-        QTest::newRow(pictures[i].name) << QStringLiteral("gif/%1.gif").arg(QLatin1String(pictures[i].file))
-                                        << QStringLiteral("gif/%1.gif").arg(QLatin1String(pictures[(i + 1) % 6].file))
-                                        << pictures[i].colourful;
+    QTest::newRow("holly") << "leaf" << 0.8;
+    QTest::newRow("ducks") << "wb01747_" << 0.5;
+    QTest::newRow("suns") << "wb01330_" << 0.9;
+    QTest::newRow("dinosaurs") << "wb01742_" << 0.9;
+    QTest::newRow("spiders") << "wb01299_" << 0.0;
+    QTest::newRow("gorillas") << "wb01746_" << 0.0;
 }
 
+// A 60 x 60 GIF, clear round the picture so the cell's tile shows; the
+// picture fills a good part of it in many shades, in colour where its
+// subject has colours (a glyph in black and white would not), and its
+// outline differs from the holly's.
 void TestAssetFiles::halvesPictures()
 {
     QFETCH(QString, file);
-    QFETCH(QString, next);
     QFETCH(double, colourful);
-    QImageReader reader(assetPath(file));
+    QImageReader reader(assetPath(QStringLiteral("gif/%1.gif").arg(file)));
     QCOMPARE(reader.format(), QByteArray("gif"));
     const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32);
+    const QImage holly = loadImage(assetPath(QStringLiteral("gif/leaf.gif")));
     QCOMPARE(image.size(), QSize(60, 60));
-    const QImage other = loadImage(assetPath(next));
-    QCOMPARE(other.size(), QSize(60, 60));
-
-    // Clear round the picture, so the cell's tile shows; the picture fills a
-    // good part of the square, in many shades, and in colour where its
-    // subject has colours (a glyph in black and white would not).
-    for (const QPoint &p : {QPoint(0, 0), QPoint(59, 0), QPoint(0, 59), QPoint(59, 59)})
-        QCOMPARE(qAlpha(image.pixel(p)), 0);
     int solid = 0, bright = 0, differs = 0;
     QSet<QRgb> shades;
     for (int y = 0; y < 60; ++y)
         for (int x = 0; x < 60; ++x) {
             const QRgb c = image.pixel(x, y);
-            differs += (qAlpha(c) == 0) != (qAlpha(other.pixel(x, y)) == 0);
-            if (qAlpha(c) == 0)
-                continue;
-            ++solid;
+            differs += (qAlpha(c) == 0) != (qAlpha(holly.pixel(x, y)) == 0);
+            solid += qAlpha(c) != 0;
+            bright += qAlpha(c) != 0 && QColor(c).hsvSaturation() > 100;
             shades << c;
-            bright += QColor(c).hsvSaturation() > 100;
         }
+    QCOMPARE(qAlpha(image.pixel(0, 0)) + qAlpha(image.pixel(59, 59)), 0);
     QVERIFY2(solid > 3600 / 5 && solid < 3600 * 85 / 100, qPrintable(QString::number(solid)));
-    QVERIFY2(shades.size() >= 40, qPrintable(QString::number(shades.size())));
-    QVERIFY2(bright >= colourful * solid, qPrintable(QStringLiteral("%1 of %2").arg(bright).arg(solid)));
-    QVERIFY2(differs > 300, qPrintable(QString::number(differs)));
+    QVERIFY2(shades.size() >= 40 && bright >= colourful * solid, qPrintable(QString::number(bright)));
+    QVERIFY(file == QLatin1String("leaf") || differs > 300);
 }
 
 void TestAssetFiles::harpSounds_data()

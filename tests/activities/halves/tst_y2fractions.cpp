@@ -1,8 +1,7 @@
-// Halves and Quarters 1: the board, Check and Hint, the practice run to the
-// certificate, the Challenge back to the menu, and one whole game by clicks.
+// Halves and Quarters 1: the questions, the board, Check and Hint, and whole
+// games from the menu through practice and the Challenge back to the menu.
 #include "activities/halves/picturecell.h"
 #include "activities/halves/y2fractions.h"
-#include "menus/activitymenu.h"
 #include "rewards/grey.h"
 #include "rewards/reward.h"
 #include "rewards/welldone.h"
@@ -22,8 +21,6 @@ using namespace Module1;
 
 namespace {
 
-const QString kChallengeWords = QStringLiteral("Congratulations!!! You have risen to the Challenge.");
-
 QList<PictureCell*> shownCells(Y2fractions* form)
 {
     QList<PictureCell*> cells;
@@ -33,15 +30,13 @@ QList<PictureCell*> shownCells(Y2fractions* form)
     return cells;
 }
 
-// Selects the first n pictures on the board.
 void choose(Y2fractions* form, int n)
 {
     for (int i = 0; i < n; ++i)
         form->Image1[i]->click();
 }
 
-// What comes between two questions: the stars to their end, then the pause
-// timer.
+// Between two questions: the stars play to their end, then the pause ends.
 void nextQuestion(Y2fractions* form)
 {
     if (Grey* grey = Forms::find<Grey>(); grey && grey->Timer1->isEnabled()) {
@@ -53,16 +48,21 @@ void nextQuestion(Y2fractions* form)
     form->Timer3_Timer();
 }
 
-bool fits(QLabel* label)
+Y2fractions* openFromMenu()
 {
-    const QRect needed = label->fontMetrics().boundingRect(QRect(0, 0, label->contentsRect().width(), 10000),
-                                                           Qt::TextWordWrap, label->text());
-    return needed.height() <= label->contentsRect().height();
+    Forms::show(QStringLiteral("y2Intro"))->findChild<QPushButton*>(QStringLiteral("Command5"))->click();
+    TestSupport::flushUnloads();
+    return Forms::find<Y2fractions>();
 }
 
-QRect inForm(QWidget* control, Y2fractions* form)
+// Start, then further questions until one asks for this many pictures (0: any).
+Y2fractions* startWithTarget(int target)
 {
-    return QRect(control->mapTo(form, QPoint(0, 0)), control->size());
+    Y2fractions* form = openFromMenu();
+    form->cmdstart->click();
+    for (int i = 0; i < 200 && target != 0 && form->question.target != target; ++i)
+        form->Timer3_Timer();
+    return form;
 }
 
 } // namespace
@@ -71,22 +71,17 @@ class TestY2fractions : public QObject {
     Q_OBJECT
 private slots:
     void init();
+    void questionDraws_data();
+    void questionDraws();
     void opensWaitingForStart();
-    void boardShowsTheQuestion();
-    void checkOutcomes_data();
-    void checkOutcomes();
-    void hintOutcomes_data();
-    void hintOutcomes();
-    void practiceRunOpensTheCertificate_data();
-    void practiceRunOpensTheCertificate();
-    void challengeRun();
+    void boardByMouseAndKeyboard();
+    void answerOutcomes_data();
+    void answerOutcomes();
+    void wholeGameByClicks_data();
+    void wholeGameByClicks();
     void printAndExit();
-    void playedByClicksOnly();
 
 private:
-    Y2fractions* openFromMenu();
-    // Start, then new questions until one has this target (0: any).
-    Y2fractions* startWithTarget(int target);
     TestSupport::World world;
 };
 
@@ -96,386 +91,197 @@ void TestY2fractions::init()
     version = QStringLiteral("0");
     yearlabel = QStringLiteral("Year 2");
     streak = 10;
-    questions = 20;
 }
 
-Y2fractions* TestY2fractions::openFromMenu()
+void TestY2fractions::questionDraws_data()
 {
-    Forms::show(QStringLiteral("y2Intro"))->findChild<QPushButton*>(QStringLiteral("Command5"))->click();
-    TestSupport::flushUnloads();
-    return Forms::find<Y2fractions>();
+    QTest::addColumn<quint64>("seed");
+    for (quint64 seed : {1ULL, 77ULL, 123456789ULL})
+        QTest::addRow("seed %llu", seed) << seed;
 }
 
-Y2fractions* TestY2fractions::startWithTarget(int target)
+// Each question drawn after the one before: a count that is a multiple of
+// its parts, a target of 1 to 8, never the set or the count of the last
+// one; every set and every possible count turn up, halves as often as quarters.
+void TestY2fractions::questionDraws()
 {
-    Y2fractions* form = openFromMenu();
-    form->cmdstart->click();
-    for (int i = 0; i < 200 && target != 0 && form->question.target != target; ++i)
-        form->Timer3_Timer();
-    return form;
+    QFETCH(quint64, seed);
+    Random::fixSeed(seed);
+    const QSet<int> halfCounts{2, 4, 6, 8, 10, 12, 14, 16}, quarterCounts{4, 8, 12, 16};
+    QSet<int> sets, halves, quarters;
+    int halfQuestions = 0;
+    Halves::Question last;
+    for (int i = 0; i < 2000; ++i) {
+        const Halves::Question q = Halves::drawQuestion(last.set, last.howmany);
+        QVERIFY(q.parts == 2 || q.parts == 4);
+        QVERIFY((q.parts == 2 ? halfCounts : quarterCounts).contains(q.howmany));
+        QVERIFY(q.target * q.parts == q.howmany && q.target >= 1 && q.target <= 8);
+        QVERIFY(q.set >= 1 && q.set <= 6 && q.set != last.set && q.howmany != last.howmany);
+        sets << q.set;
+        (q.parts == 2 ? halves : quarters) << q.howmany;
+        halfQuestions += q.parts == 2;
+        last = q;
+    }
+    QCOMPARE(sets.size(), 6);
+    QCOMPARE(halves, halfCounts);
+    QCOMPARE(quarters, quarterCounts);
+    QVERIFY(halfQuestions > 850 && halfQuestions < 1150); // the 3s are thrown away, not mapped
 }
 
 void TestY2fractions::opensWaitingForStart()
 {
-    const int visitsBefore = visits;
+    questions = 20;
     Y2fractions* form = openFromMenu();
-    QVERIFY(form && form->isVisible());
     QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("Y2fractions")});
-    QCOMPARE(form->windowTitle(), QStringLiteral("Year 2"));
     QCOMPARE(questions, 10);
-    QVERIFY(form->Option1->isChecked() && form->Option1->isVisible());
+    QVERIFY(form->Option1->isChecked() && form->Picture1->isVisible());
     QCOMPARE(activitytitle, QStringLiteral("Halves and Quarters 1"));
-    QCOMPARE(visits, visitsBefore + 1);
+    QCOMPARE(visits, 1);
     QVERIFY(Forms::find<Grey>()->Timer2->isEnabled());
-    QVERIFY(form->Picture1->isVisible());
-    QCOMPARE(form->findChild<QLabel*>(QStringLiteral("Label6"))->text(),
-             QStringLiteral("Choose either 10 or 20 questions. Answer this number of questions correctly to gain a "
-                            "certificate."));
-    QVERIFY(shownCells(form).isEmpty());
-    QVERIFY(!form->Label1->isVisible() && !form->Label2->isVisible() && !form->Label8->isVisible());
+    QVERIFY(shownCells(form).isEmpty() && !form->Label8->isVisible());
     QVERIFY(!form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
-    QVERIFY(form->cmdstart->isEnabled());
-    QCOMPARE(form->Image2->objectName(), QStringLiteral("Image2(0)"));
-    QCOMPARE(form->Timer3->interval(), 3000);
 
-    // A 4 x 4 grid in index order, of cells big enough for small fingers,
-    // clear of one another, of the reward picture (short or tall) and of the
-    // messages over the board.
-    const QRect shortPicture(form->Image2->x(), 80, 288, 240), tallPicture(form->Image2->x(), 40, 288, 320);
+    // A 4 x 4 grid in index order of cells for small fingers, clear of the
+    // reward picture (short or tall), the options and the instruction,
+    // which holds the longest message.
+    const QRect picture(form->Image2->x(), 40, 288, 280);
     for (PictureCell* cell : form->Image1) {
-        const QRect r = inForm(cell, form);
-        QVERIFY(r.width() >= 64 && r.height() >= 64);
-        QVERIFY(form->rect().contains(r));
-        QVERIFY(!r.intersects(shortPicture) && !r.intersects(tallPicture));
-        QVERIFY(!r.intersects(form->Label1->geometry()) && !r.intersects(form->Frame1->geometry()));
-        if (cell->index() % 4 != 0) {
-            const QRect left = inForm(form->Image1[cell->index() - 1], form);
-            QVERIFY(left.right() < r.left() && left.top() == r.top());
-        }
-        if (cell->index() >= 4)
-            QVERIFY(inForm(form->Image1[cell->index() - 4], form).bottom() < r.top());
+        const QRect r(cell->mapTo(form, QPoint(0, 0)), cell->size());
+        const int i = cell->index();
+        QVERIFY(r.width() >= 64 && r.height() >= 64 && form->rect().contains(r));
+        QVERIFY(!r.intersects(picture) && !r.intersects(form->Label1->geometry())
+                && !r.intersects(form->Frame1->geometry()));
+        QVERIFY(i % 4 == 0 || form->Image1[i - 1]->geometry().right() < cell->x());
+        QVERIFY(i < 4 || form->Image1[i - 4]->geometry().bottom() < cell->y());
     }
-    QCOMPARE(form->Label2->geometry(), form->Label1->geometry());
-    QVERIFY(!form->Label1->geometry().intersects(tallPicture));
-    for (const QString& longest : {QStringLiteral("Click on one quarter of the dinosaurs"),
-                                   QStringLiteral("Smart cookie! You chose one quarter of the dinosaurs"),
-                                   QStringLiteral("You don't need a hint, you have the right answer!")}) {
-        form->Label2->setText(longest);
-        QVERIFY2(fits(form->Label2), qPrintable(longest));
-    }
-    ActivityForm::showReadyMessage(form->Label8, QStringLiteral("20"));
-    QVERIFY(fits(form->Label8));
+    QLabel* message = form->Label2;
+    QCOMPARE(message->geometry(), form->Label1->geometry());
+    message->setText(QStringLiteral("Smart cookie! You chose one quarter of the dinosaurs"));
+    QVERIFY(message->heightForWidth(message->width()) <= message->height());
 }
 
-void TestY2fractions::boardShowsTheQuestion()
+void TestY2fractions::boardByMouseAndKeyboard()
 {
     Y2fractions* form = startWithTarget(0);
-    for (int q = 0; q < 40; ++q, form->Timer3_Timer()) {
+    for (int q = 0; q < 30; ++q, form->Timer3_Timer()) {
         const Halves::Question& question = form->question;
-        QCOMPARE(shownCells(form).size(), question.howmany);
         QCOMPARE(shownCells(form), form->Image1.mid(0, question.howmany));
-        QCOMPARE(form->Label1->text(), question.instruction());
-        QVERIFY(form->Label1->isVisible() && !form->Picture1->isVisible());
-        QCOMPARE(setname, question.picname());
-        QCOMPARE(form->lastset, question.set);
-        QCOMPARE(form->Timer5->isEnabled(), question.parts == 2);
-        QCOMPARE(form->Timer6->isEnabled(), question.parts == 4);
-        // The per-set hook follows the fraction's timer.
-        if (question.parts == 2)
-            form->Timer5_Timer();
-        else
-            form->Timer6_Timer();
-        QVERIFY(form->Timer4->isEnabled() && !form->Timer5->isEnabled() && !form->Timer6->isEnabled());
-        if (q % 2 == 0)
-            form->Timer4_Timer();
-        QCOMPARE(form->Timer4->isEnabled(), q % 2 == 1);
-        for (PictureCell* cell : shownCells(form)) {
-            QCOMPARE(cell->picturePath(), question.pictureFile());
-            QCOMPARE(cell->appearance(), 0);
-            QCOMPARE(cell->borderStyle(), 0);
-            QVERIFY(cell->isEnabled());
-        }
+        QCOMPARE(shownCells(form).last()->picturePath(), question.pictureFile());
+        QCOMPARE(form->Label1->text() + setname, question.instruction() + question.picname());
+        // The fraction's own timer, then the per-set hook.
+        QCOMPARE(form->Timer5->isEnabled() + 2 * form->Timer6->isEnabled(), question.parts / 2);
+        question.parts == 2 ? form->Timer5_Timer() : form->Timer6_Timer();
+        QVERIFY(form->Timer4->isEnabled());
+        form->Timer4_Timer();
     }
-
-    // A click stops the per-set hook and clears the message.
-    QVERIFY(form->Timer4->isEnabled());
-    form->Label2->setText(QStringLiteral("old message"));
     PictureCell* cell = form->Image1[1];
-    cell->click();
+    form->Label2->setText(QStringLiteral("old"));
+    form->Timer4->setEnabled(true);
+    cell->click(); // which stops the hook and clears the message
     QVERIFY(!form->Timer4->isEnabled());
     QCOMPARE(form->Label2->text(), QString());
-    QCOMPARE(cell->property("Appearance").toInt(), 1);
-    QCOMPARE(cell->property("BorderStyle").toInt(), 1);
-    QCOMPARE(form->selectedCount(), 1);
-
-    // Screen readers hear the picture's name and whether it is chosen.
+    QCOMPARE(cell->property("Appearance").toInt() + cell->property("BorderStyle").toInt(), 2);
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(cell);
-    QVERIFY(spoken);
     QCOMPARE(spoken->text(QAccessible::Name), form->question.picname());
     QVERIFY(spoken->state().checkable && spoken->state().checked);
     cell->click();
-    QCOMPARE(cell->appearance(), 0);
+    QCOMPARE(cell->property("Appearance").toInt() + cell->property("BorderStyle").toInt(), 0);
     QVERIFY(!spoken->state().checked);
 
-    // Keyboard: Tab from Check reaches the first picture, Space chooses it.
+    // Tab from Check reaches the first picture, Space chooses it, Enter checks.
     QApplication::setActiveWindow(form);
     form->cmdcheck->setFocus();
     QTest::keyClick(form->cmdcheck, Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), form->Image1[0]);
     QTest::keyClick(form->Image1[0], Qt::Key_Space);
-    QCOMPARE(form->Image1[0]->appearance(), 1);
-    QTest::keyClick(form->Image1[0], Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget(), form->Image1[1]);
+    QCOMPARE(form->selectedCount(), 1);
+    QTest::keyClick(form->Image1[0], Qt::Key_Backtab);
+    QTest::keyClick(form->cmdcheck, Qt::Key_Return);
+    QVERIFY(form->Label2->isVisible() && !form->cmdcheck->isEnabled());
+    form->Image1[2]->click(); // a checked board no longer reacts
+    QCOMPARE(form->selectedCount(), 1);
 
-    // After Check the board no longer reacts.
-    form->cmdcheck->click();
-    const int chosen = form->selectedCount();
-    form->Image1[2]->click();
-    QCOMPARE(form->selectedCount(), chosen);
-}
-
-void TestY2fractions::checkOutcomes_data()
-{
-    QTest::addColumn<int>("target");
-    QTest::addColumn<int>("chosen");
-    QTest::addColumn<QString>("message"); // praise comes before a right answer's words
-    QTest::addColumn<bool>("pause");      // Timer3: a new question follows; otherwise Timer1
-    QTest::newRow("right, one picture") << 1 << 1 << "You chose one " << true;
-    QTest::newRow("right, five pictures") << 5 << 5 << "You chose one half of the " << true;
-    QTest::newRow("none chosen") << 3 << 0 << "You must choose some pictures!" << false;
-    QTest::newRow("one too many") << 1 << 2 << "You should have clicked on 1 picture" << true;
-    QTest::newRow("one too few") << 3 << 2 << "You should have clicked on 3 pictures" << true;
-    QTest::newRow("too many") << 2 << 7 << "You should have clicked on 2 pictures" << true;
-}
-
-void TestY2fractions::checkOutcomes()
-{
-    QFETCH(int, target);
-    QFETCH(int, chosen);
-    QFETCH(QString, message);
-    QFETCH(bool, pause);
-    Y2fractions* form = startWithTarget(target);
-    QCOMPARE(form->question.target, target);
-    const bool right = chosen == target;
-    choose(form, chosen);
-    form->Timer5->setEnabled(true);
-    form->cmdcheck->click();
-
-    QVERIFY(form->Label2->isVisible() && !form->Label1->isVisible());
-    if (right) {
-        QCOMPARE(form->Label2->text(), praisetext + form->question.rightAnswer());
-        QVERIFY(form->Label2->text().contains(message));
-        QCOMPARE(counter, 1);
-        QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picset, 2));
-        QVERIFY(form->Image2->isVisible());
-        QVERIFY(!form->isEnabled()); // the stars have the screen until the next question
-        QVERIFY(Forms::find<Grey>()->Timer1->isEnabled());
-    } else {
-        QCOMPARE(form->Label2->text(), message);
-        QCOMPARE(counter, 0);
-        QVERIFY(form->isEnabled() && !form->Image2->isVisible());
-    }
-    QCOMPARE(form->Timer3->isEnabled(), pause);
-    QCOMPARE(form->Timer1->isEnabled(), !pause);
-    QVERIFY(!form->Timer5->isEnabled());
-    QVERIFY(!form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled() && !form->Image1[0]->isEnabled());
-
-    const Halves::Question asked = form->question;
-    if (pause) {
-        nextQuestion(form);
-        QVERIFY(form->question.set != asked.set);
-        QCOMPARE(form->selectedCount(), 0);
-    } else {
-        form->Timer1_Timer(); // the same question, the marks kept
-        QCOMPARE(form->question.set, asked.set);
-        QCOMPARE(form->selectedCount(), chosen);
-    }
-    QVERIFY(form->isEnabled() && form->Label1->isVisible() && !form->Label2->isVisible());
-    QVERIFY(form->cmdcheck->isEnabled() && form->cmdhint->isEnabled() && form->Image1[0]->isEnabled());
-    QVERIFY(!form->Timer1->isEnabled() && !form->Timer3->isEnabled());
-    QCOMPARE(counter, right ? 1 : 0);
-}
-
-void TestY2fractions::hintOutcomes_data()
-{
-    QTest::addColumn<int>("chosen");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("not enough") << 1 << "You have not chosen enough!";
-    QTest::newRow("just right") << 2 << "You don't need a hint, you have the right answer!";
-    QTest::newRow("too many") << 3 << "You have chosen too many!";
-}
-
-void TestY2fractions::hintOutcomes()
-{
-    QFETCH(int, chosen);
-    QFETCH(QString, message);
-    Y2fractions* form = startWithTarget(2);
-    choose(form, chosen);
-    form->cmdhint->click();
-    QCOMPARE(form->Label2->text(), message);
-    QVERIFY(form->Label2->isVisible() && !form->Label1->isVisible());
-    QVERIFY(!form->cmdhint->isEnabled() && !form->Image1[0]->isEnabled());
-    QCOMPARE(counter, 0);
-    if (chosen == 2) {
-        // No timer: the child goes on with Check, which is ready.
-        QVERIFY(!form->Timer1->isEnabled());
-        QVERIFY(form->cmdcheck->isEnabled());
-        QVERIFY(form->cmdcheck->hasFocus() || QApplication::focusWidget() == nullptr);
-        form->cmdcheck->click();
-        QCOMPARE(counter, 1);
-        return;
-    }
-    QVERIFY(form->Timer1->isEnabled() && !form->cmdcheck->isEnabled());
+    // Timer2's quick check shortens the next pause once.
     form->Timer1_Timer();
-    QVERIFY(form->Label1->isVisible() && form->cmdhint->isEnabled() && form->Image1[0]->isEnabled());
-    QCOMPARE(form->selectedCount(), chosen);
-
-    // The quick check of Timer2 checks at once and shortens the next pause once.
     form->Timer2_Timer();
-    QCOMPARE(form->Label2->text(), QStringLiteral("You should have clicked on 2 pictures"));
+    QVERIFY(!form->cmdcheck->isEnabled());
     QCOMPARE(form->Timer3->interval(), 500);
     form->Timer3_Timer();
     QCOMPARE(form->Timer3->interval(), 3000);
 }
 
-void TestY2fractions::practiceRunOpensTheCertificate_data()
+void TestY2fractions::answerOutcomes_data()
+{
+    QTest::addColumn<bool>("hint"); // Hint pressed, or Check
+    QTest::addColumn<int>("target");
+    QTest::addColumn<int>("chosen");
+    QTest::addColumn<QString>("message"); // after the praise, for a right answer
+    QTest::addColumn<int>("timer");       // 1: the same question comes back; 3: a new one; 0: Check waits
+    QTest::newRow("right, 1") << false << 1 << 1 << "You chose one " << 3;
+    QTest::newRow("right, 5") << false << 5 << 5 << "You chose one half of the " << 3;
+    QTest::newRow("none") << false << 3 << 0 << "You must choose some pictures!" << 1;
+    QTest::newRow("1 too many") << false << 1 << 2 << "You should have clicked on 1 picture" << 3;
+    QTest::newRow("1 too few") << false << 2 << 1 << "You should have clicked on 2 pictures" << 3;
+    QTest::newRow("hint, not enough") << true << 2 << 1 << "You have not chosen enough!" << 1;
+    QTest::newRow("hint, just right") << true << 2 << 2 << "You don't need a hint, you have the right answer!" << 0;
+    QTest::newRow("hint, too many") << true << 2 << 3 << "You have chosen too many!" << 1;
+}
+
+void TestY2fractions::answerOutcomes()
+{
+    QFETCH(bool, hint);
+    QFETCH(int, target);
+    QFETCH(int, chosen);
+    QFETCH(QString, message);
+    QFETCH(int, timer);
+    Y2fractions* form = startWithTarget(target);
+    const Halves::Question asked = form->question;
+    choose(form, chosen);
+    (hint ? form->cmdhint : form->cmdcheck)->click();
+    const bool right = !hint && chosen == target;
+    QVERIFY(form->Label2->isVisible() && !form->Label1->isVisible());
+    QCOMPARE(form->Label2->text(), right ? praisetext + asked.rightAnswer() : message);
+    QVERIFY(form->Label2->text().contains(message));
+    QCOMPARE(counter, right ? 1 : 0);
+    QCOMPARE(form->Image2->isVisible(), right);
+    QCOMPARE(form->isEnabled(), !right); // the stars have the screen until the next question
+    QCOMPARE(form->Timer1->isEnabled(), timer == 1);
+    QCOMPARE(form->Timer3->isEnabled(), timer == 3);
+    QCOMPARE(form->cmdcheck->isEnabled(), timer == 0);
+    QVERIFY(!form->cmdhint->isEnabled() && !form->Image1[0]->isEnabled());
+    if (timer == 0) {
+        form->cmdcheck->click();
+        QCOMPARE(counter, 1);
+        return;
+    }
+    timer == 1 ? form->Timer1_Timer() : nextQuestion(form);
+    QCOMPARE(form->question.set == asked.set, timer == 1);
+    QCOMPARE(form->selectedCount(), timer == 1 ? chosen : 0);
+    QVERIFY(form->isEnabled() && form->Label1->isVisible() && !form->Label2->isVisible());
+    QVERIFY(form->cmdcheck->isEnabled() && form->cmdhint->isEnabled() && form->Image1[0]->isEnabled());
+}
+
+void TestY2fractions::wholeGameByClicks_data()
 {
     QTest::addColumn<bool>("twenty");
     QTest::newRow("10 questions") << false;
     QTest::newRow("20 questions") << true;
 }
 
-// Right answers, with wrong ones and hints in between, which cost nothing in
-// practice; the reward picture grows with each; the last one says the child
-// is ready and opens the certificate; leaving it arms the Challenge.
-void TestY2fractions::practiceRunOpensTheCertificate()
+// A game as a child plays it, reading the instruction and the pictures off
+// the screen: practice with a slip and a hint (neither costs anything) to
+// the certificate, then the Challenge with a slip that starts the same
+// picture again, then the certificate back at the menu.
+void TestY2fractions::wholeGameByClicks()
 {
     QFETCH(bool, twenty);
     Y2fractions* form = openFromMenu();
     if (twenty)
-        form->Option2->click();
+        QTest::mouseClick(form->Option2, Qt::LeftButton, {}, QPoint(8, form->Option2->height() / 2));
     const int run = twenty ? 20 : 10;
     QCOMPARE(questions, run);
-    form->cmdstart->click();
-    const QString picture = picset;
-    for (int right = 1; right <= run; ++right) {
-        if (right % 3 == 0) { // a hint and a wrong answer first
-            choose(form, form->question.target + 1);
-            form->cmdhint->click();
-            form->Timer1_Timer();
-            form->cmdcheck->click();
-            nextQuestion(form);
-        }
-        choose(form, form->question.target);
-        form->cmdcheck->click();
-        QCOMPARE(picset, picture);
-        if (right == run)
-            break;
-        QCOMPARE(counter, right);
-        QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picset, right * 20 / run));
-        nextQuestion(form);
-    }
-    QCOMPARE(counter, 0);
-    QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picset, 20));
-    QVERIFY(shownCells(form).isEmpty());
-    QCOMPARE(form->Label1->text(), QString());
-    QVERIFY(form->Label8->isVisible());
-    QCOMPARE(form->Label8->text(),
-             QStringLiteral("  You are now ready for the Challenge.  10 correct answers on the run, with no hints. "
-                            "Click Start to take the Challenge."));
-    QVERIFY(!form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
-    QVERIFY(!form->Timer3->isEnabled());
-    auto* certificate = Forms::find<Welldone>();
-    QVERIFY(certificate && certificate->isVisible());
-    QVERIFY(certificate->Label1->text() != kChallengeWords);
-    certificate->cmdexit->click();
-    QCOMPARE(challenge, 1);
-
-    form->cmdstart->click();
-    QVERIFY(!form->Label8->isVisible() && !form->cmdhint->isEnabled() && form->cmdcheck->isEnabled());
-}
-
-void TestY2fractions::challengeRun()
-{
-    Y2fractions* form = openFromMenu();
-    challenge = 1;
-    form->cmdstart->click();
-    QVERIFY(!form->cmdhint->isEnabled());
-    const QString picture = picset;
-    choose(form, form->question.target);
-    form->cmdcheck->click();
-    nextQuestion(form);
-    QVERIFY(!form->cmdhint->isEnabled());
-    form->cmdcheck->click(); // nothing chosen: the same question comes back
-    form->Timer1_Timer();
-    QVERIFY(!form->cmdhint->isEnabled());
-    QCOMPARE(counter, 1);
-
-    // A wrong answer: the retry screen, the same picture from nothing, a new question.
-    choose(form, form->question.target + 1);
-    form->cmdcheck->click();
-    QCOMPARE(challenge, 2);
-    QCOMPARE(counter, 0);
-    QCOMPARE(picset, picture);
-    QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picture, 0));
-    QVERIFY(!form->Image2->isVisible());
-    auto* retry = Forms::find<Reward>();
-    QVERIFY(retry && retry->isVisible() && retry->Label1->isVisible());
-    QVERIFY(form->Timer3->isEnabled());
-    QCOMPARE(form->Label2->text(), Halves::shouldHaveClicked(form->question.target));
-    retry->Timer2_Timer();
-    nextQuestion(form);
-    QVERIFY(!form->cmdhint->isEnabled());
-
-    // Ten right answers in a row win it: back to the menu, then the certificate.
-    for (int right = 1; right <= questions; ++right) {
-        choose(form, form->question.target);
-        form->cmdcheck->click();
-        if (right < questions) {
-            QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picture, right * 2));
-            nextQuestion(form);
-            QVERIFY(!form->cmdhint->isEnabled());
-        }
-    }
-    TestSupport::flushUnloads();
-    QVERIFY(!Forms::isLoaded(QStringLiteral("Y2fractions")));
-    QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y2Intro")}));
-    QCOMPARE(Forms::find<Welldone>()->Label1->text(), kChallengeWords);
-}
-
-void TestY2fractions::printAndExit()
-{
-    QTemporaryDir pdfs;
-    PrintTarget::setPdfFolder(pdfs.path());
-    Y2fractions* form = startWithTarget(0);
-    world.answer = MsgBox::Answer::No;
-    form->cmdprint->click();
-    QCOMPARE(world.messages.size(), 1);
-    QCOMPARE(world.messages[0].text, QStringLiteral("Do you really want to print?"));
-    QCOMPARE(world.messages[0].title, QStringLiteral("Year 2"));
-    QCOMPARE(world.messages[0].buttons, MsgBox::Buttons::YesNo);
-    QVERIFY(QDir(pdfs.path()).isEmpty());
-    world.answer = MsgBox::Answer::Yes;
-    form->cmdprint->click();
-    QCOMPARE(QDir(pdfs.path()).entryList({QStringLiteral("*.pdf")}).size(), 1);
-    QCOMPARE(form->focusWidget(), form->cmdcheck);
-    PrintTarget::setPdfFolder(QString());
-
-    form->cmdexit->click();
-    TestSupport::flushUnloads();
-    QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("y2Intro")});
-}
-
-// A whole game as a child plays it: the menu's button, Start, pictures and
-// Check by mouse until the certificate, its exit, then the Challenge with
-// one slip, and its certificate back at the menu. What to click is read off
-// the screen: the instruction and the pictures shown.
-void TestY2fractions::playedByClicksOnly()
-{
-    Forms::show(QStringLiteral("y2Intro"))->findChild<QPushButton*>(QStringLiteral("Command5"))->click();
-    TestSupport::flushUnloads();
-    Y2fractions* form = Forms::find<Y2fractions>();
     QTest::mouseClick(form->cmdstart, Qt::LeftButton);
+    const QString picture = picset;
     auto answer = [form](int extra) {
         const QList<PictureCell*> cells = shownCells(form);
         const int parts = form->Label1->text().contains(QLatin1String("one half")) ? 2 : 4;
@@ -484,32 +290,62 @@ void TestY2fractions::playedByClicksOnly()
         QTest::mouseClick(form->cmdcheck, Qt::LeftButton);
     };
     int asked = 0;
-    for (; !Forms::isLoaded(QStringLiteral("Welldone")) && asked < 30; ++asked) {
+    for (; !Forms::isLoaded(QStringLiteral("Welldone")) && asked < 40; ++asked) {
+        if (asked == 3)
+            QTest::mouseClick(form->cmdhint, Qt::LeftButton), form->Timer1_Timer();
         answer(asked == 4 ? 1 : 0);
-        if (!Forms::isLoaded(QStringLiteral("Welldone")))
-            nextQuestion(form);
+        if (Forms::isLoaded(QStringLiteral("Welldone")))
+            break;
+        QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picture, counter * 20 / run));
+        nextQuestion(form);
     }
-    QCOMPARE(asked, 11); // ten right, one wrong
-    QVERIFY(form->Label8->text().startsWith(QLatin1String("  You are now ready for the Challenge.  10 ")));
+    QCOMPARE(asked, run); // and the last answer, which ended the loop: one wrong, the rest right
+    QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picture, 20));
+    QVERIFY(shownCells(form).isEmpty() && form->Label8->isVisible());
+    QCOMPARE(form->Label8->text(), ActivityForm::readyText(QStringLiteral("10")));
     QTest::mouseClick(Forms::find<Welldone>()->cmdexit, Qt::LeftButton);
-    TestSupport::flushUnloads();
+    QCOMPARE(challenge, 1);
 
+    // The Challenge is as long as the year's run, and the options say so.
     QTest::mouseClick(form->cmdstart, Qt::LeftButton);
-    QVERIFY(!form->cmdhint->isEnabled());
-    for (asked = 0; Forms::isLoaded(QStringLiteral("Y2fractions")) && asked < 30; ++asked) {
+    QVERIFY(form->Option1->isChecked() && !form->Option2->isChecked());
+    const QString challengePicture = picset;
+    for (asked = 0; Forms::isLoaded(QStringLiteral("Y2fractions")) && asked < 40; ++asked) {
+        QVERIFY(!form->cmdhint->isEnabled());
         answer(asked == 2 ? -1 : 0);
         if (asked == 2) {
-            QVERIFY(Forms::find<Reward>()->Label2->isVisible());
+            QCOMPARE(challenge, 2);
+            QCOMPARE(counter, 0);
+            QCOMPARE(picset, challengePicture);
+            QVERIFY(!form->Image2->isVisible());
+            QVERIFY(Forms::find<Reward>()->Label1->isVisible());
             Forms::find<Reward>()->Timer2_Timer();
         }
         TestSupport::flushUnloads();
         if (Forms::isLoaded(QStringLiteral("Y2fractions")))
             nextQuestion(form);
     }
-    QCOMPARE(asked, 13); // two right, one wrong, then ten right
-    QCOMPARE(challenge, 2);
+    QCOMPARE(asked, streak + 3);
     QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y2Intro")}));
-    QCOMPARE(Forms::find<Welldone>()->Label1->text(), kChallengeWords);
+    QCOMPARE(Forms::find<Welldone>()->Label1->text(), QStringLiteral("Congratulations!!! You have risen to the Challenge."));
+}
+
+void TestY2fractions::printAndExit()
+{
+    QTemporaryDir pdfs;
+    PrintTarget::setPdfFolder(pdfs.path());
+    Y2fractions* form = startWithTarget(0);
+    form->cmdprint->setFocus();
+    for (MsgBox::Answer answer : {MsgBox::Answer::No, MsgBox::Answer::Yes})
+        world.answer = answer, form->cmdprint->click();
+    PrintTarget::setPdfFolder(QString());
+    QCOMPARE(world.messages.size(), 2);
+    QCOMPARE(world.messages[1].text + world.messages[1].title, QStringLiteral("Do you really want to print?Year 2"));
+    QCOMPARE(QDir(pdfs.path()).entryList({QStringLiteral("*.pdf")}).size(), 1);
+    QCOMPARE(form->focusWidget(), form->cmdcheck);
+    form->cmdexit->click();
+    TestSupport::flushUnloads();
+    QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("y2Intro")});
 }
 
 QTEST_MAIN(TestY2fractions)
