@@ -39,6 +39,7 @@ int main(int argc, char *argv[])
         {"publisher's logo", drawLogos},
         {"celebrations", drawCelebrations},
         {"worksheets", drawWorksheets},
+        {"halves and quarters pictures", drawHalvesPictures},
     };
     for (const auto &family : families) {
         family.draw(out);

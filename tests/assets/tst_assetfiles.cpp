@@ -197,6 +197,8 @@ private slots:
     void stills();
     void animations_data();
     void animations();
+    void halvesPictures_data();
+    void halvesPictures();
     void harpSounds_data();
     void harpSounds();
     void gifKeepsExactColours_data();
@@ -395,6 +397,49 @@ void TestAssetFiles::animations()
                      qPrintable(QStringLiteral("frame %1").arg(i)));
         }
     }
+}
+
+void TestAssetFiles::halvesPictures_data()
+{
+    // The six pictures of Halves and Quarters, and the least share of their
+    // solid pixels in clear colours (the grey gorilla and spider have none).
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<double>("colourful");
+    QTest::newRow("holly") << "leaf" << 0.8;
+    QTest::newRow("ducks") << "wb01747_" << 0.5;
+    QTest::newRow("suns") << "wb01330_" << 0.9;
+    QTest::newRow("dinosaurs") << "wb01742_" << 0.9;
+    QTest::newRow("spiders") << "wb01299_" << 0.0;
+    QTest::newRow("gorillas") << "wb01746_" << 0.0;
+}
+
+// A 60 x 60 GIF, clear round the picture so the cell's tile shows; the
+// picture fills a good part of it in many shades, in colour where its
+// subject has colours (a glyph in black and white would not), and its
+// outline differs from the holly's.
+void TestAssetFiles::halvesPictures()
+{
+    QFETCH(QString, file);
+    QFETCH(double, colourful);
+    QImageReader reader(assetPath(QStringLiteral("gif/%1.gif").arg(file)));
+    QCOMPARE(reader.format(), QByteArray("gif"));
+    const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32);
+    const QImage holly = loadImage(assetPath(QStringLiteral("gif/leaf.gif")));
+    QCOMPARE(image.size(), QSize(60, 60));
+    int solid = 0, bright = 0, differs = 0;
+    QSet<QRgb> shades;
+    for (int y = 0; y < 60; ++y)
+        for (int x = 0; x < 60; ++x) {
+            const QRgb c = image.pixel(x, y);
+            differs += (qAlpha(c) == 0) != (qAlpha(holly.pixel(x, y)) == 0);
+            solid += qAlpha(c) != 0;
+            bright += qAlpha(c) != 0 && QColor(c).hsvSaturation() > 100;
+            shades << c;
+        }
+    QCOMPARE(qAlpha(image.pixel(0, 0)) + qAlpha(image.pixel(59, 59)), 0);
+    QVERIFY2(solid > 3600 / 5 && solid < 3600 * 85 / 100, qPrintable(QString::number(solid)));
+    QVERIFY2(shades.size() >= 40 && bright >= colourful * solid, qPrintable(QString::number(bright)));
+    QVERIFY(file == QLatin1String("leaf") || differs > 300);
 }
 
 void TestAssetFiles::harpSounds_data()

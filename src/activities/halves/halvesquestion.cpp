@@ -1,0 +1,60 @@
+#include "halvesquestion.h"
+
+#include "runtime/random.h"
+
+namespace Halves {
+
+QString Question::picname() const
+{
+    return set >= 1 && set <= kSetCount ? QString::fromLatin1(kPictureSets[set - 1].name) : QString();
+}
+
+QString Question::pictureFile() const
+{
+    return set >= 1 && set <= kSetCount ? QString::fromLatin1(kPictureSets[set - 1].file) : QString();
+}
+
+static QString fractionWord(int parts)
+{
+    return parts == 2 ? QStringLiteral("one half") : QStringLiteral("one quarter");
+}
+
+QString Question::instruction() const
+{
+    return QStringLiteral("Click on ") + fractionWord(parts) + QStringLiteral(" of the ") + picname();
+}
+
+QString Question::rightAnswer() const
+{
+    return QStringLiteral("You chose ") + fractionWord(parts) + QStringLiteral(" of the ") + picname();
+}
+
+Question drawQuestion(int lastset, int lasthowmany)
+{
+    Question q;
+    Random::Randomize();
+    // A 3 is thrown away rather than mapped, so halves and quarters are
+    // equally likely; the same set never comes twice in a row.
+    do {
+        q.parts = static_cast<int>(Random::Rnd() * 3 + 2);
+        q.set = static_cast<int>(Random::Rnd() * kSetCount + 1);
+    } while (q.parts == 3 || q.set == lastset);
+
+    // Re-seeded before every draw of the count, which never repeats either.
+    int n = 0;
+    do {
+        Random::Randomize();
+        n = static_cast<int>(Random::Rnd() * 15 + 2);
+    } while (n % q.parts != 0 || n == lasthowmany);
+    q.howmany = n;
+    q.target = n / q.parts;
+    return q;
+}
+
+QString shouldHaveClicked(int target)
+{
+    return QStringLiteral("You should have clicked on ") + QString::number(target)
+        + (target == 1 ? QStringLiteral(" picture") : QStringLiteral(" pictures"));
+}
+
+} // namespace Halves

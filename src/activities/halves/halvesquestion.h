@@ -1,0 +1,42 @@
+#pragma once
+// One question of Halves and Quarters: a board of identical pictures of
+// which the child picks one half or one quarter. Widget-free, so the draws
+// can be run many times with a fixed random seed.
+#include <QString>
+
+namespace Halves {
+
+// The six picture sets, numbered 1..6 as the draw numbers them.
+struct PictureSet {
+    const char* name; // plural, as the instruction says it: "ducks"
+    const char* file; // asset path: "gif\wb01747_.gif"
+};
+inline constexpr PictureSet kPictureSets[] = {
+    {"holly", "gif\\leaf.gif"},      {"ducks", "gif\\wb01747_.gif"},   {"suns", "gif\\wb01330_.gif"},
+    {"dinosaurs", "gif\\wb01742_.gif"}, {"spiders", "gif\\wb01299_.gif"}, {"gorillas", "gif\\wb01746_.gif"},
+};
+inline constexpr int kSetCount = 6;
+inline constexpr int kMostPictures = 16;
+
+struct Question {
+    int parts = 0;   // 2: one half is asked for; 4: one quarter
+    int set = 0;     // picture set, 1..6
+    int howmany = 0; // pictures on the board, 2..16, a multiple of parts
+    int target = 0;  // pictures to pick: howmany / parts, 1..8
+
+    QString picname() const;
+    QString pictureFile() const;
+    // "Click on one half of the ducks"
+    QString instruction() const;
+    // "You chose one quarter of the suns", after the praise phrase.
+    QString rightAnswer() const;
+};
+
+// Draws the next question through Random: never the set or the number of
+// pictures of the previous one (lastset and lasthowmany; 0 before the first).
+Question drawQuestion(int lastset, int lasthowmany);
+
+// "You should have clicked on 1 picture" / "... on 3 pictures".
+QString shouldHaveClicked(int target);
+
+} // namespace Halves

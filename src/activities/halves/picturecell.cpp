@@ -1,0 +1,78 @@
+#include "picturecell.h"
+
+#include "runtime/pictures.h"
+
+#include <QPainter>
+
+const QColor PictureCell::kTile{255, 251, 238};
+
+namespace {
+constexpr int kBevel = 4;
+const QColor kChosenTile{255, 236, 150};
+const QColor kLight{255, 255, 255};
+const QColor kShadow{110, 80, 20};
+const QColor kFocus{0, 58, 140};
+} // namespace
+
+PictureCell::PictureCell(QWidget* parent, int index)
+    : QAbstractButton(parent)
+    , m_index(index)
+{
+    setObjectName(QStringLiteral("Image1(%1)").arg(index));
+    setCheckable(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void PictureCell::setPicture(const QString& assetPath, const QString& name)
+{
+    if (assetPath != m_path) {
+        m_path = assetPath;
+        m_picture = assetPath.isEmpty() ? QPixmap() : Pictures::get(assetPath);
+    }
+    setAccessibleName(name);
+    setToolTip(name);
+    update();
+}
+
+QSize PictureCell::sizeHint() const
+{
+    return m_picture.deviceIndependentSize().toSize() + QSize(2 * kBevel, 2 * kBevel);
+}
+
+void PictureCell::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QRect whole = rect();
+    painter.fillRect(whole, isChecked() ? kChosenTile : kTile);
+
+    if (!m_picture.isNull()) {
+        const QRect inside = whole.adjusted(kBevel, kBevel, -kBevel, -kBevel);
+        QSize size = m_picture.deviceIndependentSize().toSize();
+        if (size.width() > inside.width() || size.height() > inside.height())
+            size.scale(inside.size(), Qt::KeepAspectRatio);
+        QRect target(QPoint(0, 0), size);
+        target.moveCenter(inside.center());
+        painter.drawPixmap(target, m_picture);
+    }
+
+    if (isChecked()) {
+        // Raised: light along the top and left, shadow along the bottom and right.
+        for (int i = 0; i < kBevel; ++i) {
+            const QRect r = whole.adjusted(i, i, -i - 1, -i - 1);
+            painter.setPen(kLight);
+            painter.drawLine(r.topLeft(), r.topRight());
+            painter.drawLine(r.topLeft(), r.bottomLeft());
+            painter.setPen(kShadow);
+            painter.drawLine(r.bottomLeft(), r.bottomRight());
+            painter.drawLine(r.topRight(), r.bottomRight());
+        }
+    }
+
+    if (hasFocus()) {
+        // The keyboard's place, plain to see.
+        painter.setPen(QPen(kFocus, 2, Qt::DashLine));
+        painter.drawRect(whole.adjusted(kBevel + 1, kBevel + 1, -kBevel - 2, -kBevel - 2));
+    }
+}

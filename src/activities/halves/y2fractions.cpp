@@ -1,0 +1,389 @@
+#include "y2fractions.h"
+
+#include "picturecell.h"
+#include "rewards/grey.h"
+#include "runtime/formtimer.h"
+#include "runtime/forms.h"
+#include "runtime/picturebox.h"
+#include "runtime/twips.h"
+#include "shell/captionbelowicon.h"
+#include "shell/module1.h"
+#include "worksheets/printforms.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+// Layout inside the window (9480 x 6510 twips). The reward picture stands on
+// the left under the first buttons; the board and its instruction on the
+// right; the question options below the picture.
+constexpr int kMargin = 120;
+constexpr int kPictureLeft = kMargin;
+constexpr int kBoardLeft = 4560;
+constexpr int kBoardWidth = Form::kScreenScaleWidthTwips - kMargin - kBoardLeft;
+constexpr int kLabelTop = 1200;
+constexpr int kLabelHeight = 720;
+constexpr int kBoardTop = 1980;
+constexpr int kBoardHeight = 6420 - kBoardTop;
+constexpr int kColumns = 4;
+constexpr int kCellGap = 90;
+constexpr int kPanelTop = 1320;
+constexpr int kPanelWidth = Form::kScreenScaleWidthTwips - 2 * 1300;
+constexpr int kPanelHeight = 3900;
+constexpr int kOptionsTop = 5520;
+constexpr int kOptionsWidth = 4320;
+constexpr int kOptionsHeight = 840;
+constexpr int kEndMargin = 30; // pixels between the end-of-run text and the reward picture
+
+const QColor kInstructionInk{255, 255, 255};
+const QColor kMessageInk{255, 236, 120};
+
+QLabel* label(QWidget* parent, const char* name, const QString& text, double points, const QColor& ink)
+{
+    auto* l = new QLabel(text, parent);
+    l->setObjectName(QString::fromLatin1(name));
+    l->setFont(Twips::font(QStringLiteral("Times New Roman"), points, true));
+    l->setWordWrap(true);
+    l->setAlignment(Qt::AlignCenter);
+    QPalette palette = l->palette();
+    palette.setColor(QPalette::WindowText, ink);
+    l->setPalette(palette);
+    return l;
+}
+
+} // namespace
+
+Y2fractions::Y2fractions()
+    : ActivityForm(QStringLiteral("Y2fractions"))
+    , Label1(label(this, "Label1", QString(), 14, kInstructionInk))
+    , Label2(label(this, "Label2", QStringLiteral("dhshsdhsdhdfgh"), 14, kMessageInk))
+    , Label8(label(this, "Label8", QStringLiteral("Click Start to have another go... or click Exit"), 16,
+                   kInstructionInk))
+    , Label3(label(Picture1, "Label3", QStringLiteral("Good Luck."), 18, kMessageInk))
+    , Label4(label(Picture1, "Label4", QStringLiteral("Halves and Quarters 1"), 26, kInstructionInk))
+    , Label6(label(Picture1, "Label6", QStringLiteral("Aim to get 10 or 20 questions correct to gain a certificate."),
+                   14, kInstructionInk))
+    , Frame1(new QFrame(this))
+    , Frame2(new QFrame(this))
+    , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
+    , Timer2(addTimer(QStringLiteral("Timer2"), kTimer2Ms))
+    , Timer3(addTimer(QStringLiteral("Timer3"), kTimer3Ms))
+    , Timer4(addTimer(QStringLiteral("Timer4"), kTimer4Ms))
+    , Timer5(addTimer(QStringLiteral("Timer5"), kTimer5Ms))
+    , Timer6(addTimer(QStringLiteral("Timer6"), kTimer6Ms))
+{
+    Image2->setObjectName(QStringLiteral("Image2(0)"));
+    Frame1->setObjectName(QStringLiteral("Frame1"));
+    Frame2->setObjectName(QStringLiteral("Frame2"));
+    for (int i = 0; i < Halves::kMostPictures; ++i) {
+        auto* cell = new PictureCell(Frame2, i);
+        connect(cell, &QAbstractButton::clicked, this, [this, i] { Image1_Click(i); });
+        Image1.append(cell);
+    }
+    Option1->setParent(Frame1);
+    Option2->setParent(Frame1);
+    layOut();
+
+    // Until Start there is no question to check or hint at.
+    cmdcheck->setEnabled(false);
+    cmdhint->setEnabled(false);
+    auto* buttonLook = new CaptionBelowIconStyle(this);
+    for (QPushButton* b : {cmdprint, cmdstart, cmdcheck, cmdhint, cmdexit}) {
+        b->setStyle(buttonLook);
+        b->setFont(Twips::font(QStringLiteral("Arial"), 8));
+        b->setAutoDefault(true); // Enter presses the button that has the focus
+        b->raise(); // a tall reward picture reaches up behind the first two
+    }
+    Label1->hide();
+    Label2->hide();
+    Label8->hide();
+    resetpics();
+
+    // The keyboard goes from Check through the pictures, then the other buttons.
+    QWidget* previous = cmdcheck;
+    for (QWidget* next : QList<QWidget*>{Image1.begin(), Image1.end()}
+                             + QList<QWidget*>{cmdhint, cmdstart, Option1, Option2, cmdprint, cmdexit}) {
+        setTabOrder(previous, next);
+        previous = next;
+    }
+
+    connect(cmdcheck, &QPushButton::clicked, this, &Y2fractions::cmdcheck_Click);
+    connect(cmdhint, &QPushButton::clicked, this, &Y2fractions::cmdhint_Click);
+    connect(cmdstart, &QPushButton::clicked, this, &Y2fractions::cmdstart_Click);
+    connect(cmdprint, &QPushButton::clicked, this, &Y2fractions::cmdprint_Click);
+    connect(cmdexit, &QPushButton::clicked, this, &Y2fractions::cmdexit_Click);
+    connect(Timer1, &QTimer::timeout, this, &Y2fractions::Timer1_Timer);
+    connect(Timer2, &QTimer::timeout, this, &Y2fractions::Timer2_Timer);
+    connect(Timer3, &QTimer::timeout, this, &Y2fractions::Timer3_Timer);
+    connect(Timer4, &QTimer::timeout, this, &Y2fractions::Timer4_Timer);
+    connect(Timer5, &QTimer::timeout, this, &Y2fractions::Timer5_Timer);
+    connect(Timer6, &QTimer::timeout, this, &Y2fractions::Timer6_Timer);
+}
+
+void Y2fractions::layOut()
+{
+    Twips::move(Image2, kPictureLeft, Module1::kRewardSets[0].top);
+
+    Twips::place(Label1, kBoardLeft, kLabelTop, kBoardWidth, kLabelHeight);
+    Twips::place(Label2, kBoardLeft, kLabelTop, kBoardWidth, kLabelHeight);
+    Twips::place(Frame2, kBoardLeft, kBoardTop, kBoardWidth, kBoardHeight);
+    const int pitchX = kBoardWidth / kColumns;
+    const int pitchY = kBoardHeight / (Halves::kMostPictures / kColumns);
+    for (PictureCell* cell : Image1)
+        Twips::place(cell, (cell->index() % kColumns) * pitchX, (cell->index() / kColumns) * pitchY,
+                     pitchX - kCellGap, pitchY - kCellGap);
+    Label8->setMargin(kEndMargin);
+
+    // The opening panel.
+    Twips::place(Picture1, 0, kPanelTop, kPanelWidth, kPanelHeight);
+    Twips::place(Label4, 0, 360, kPanelWidth, 900);
+    Twips::place(Label3, 0, 1380, kPanelWidth, 600);
+    Twips::place(Label6, 600, 2160, kPanelWidth - 1200, 1200);
+
+    // The run's length, under the reward picture.
+    Twips::place(Frame1, kMargin, kOptionsTop, kOptionsWidth, kOptionsHeight);
+    Frame1->setStyleSheet(
+        QStringLiteral("QFrame#Frame1 { border: 2px solid rgba(255, 255, 255, 150); border-radius: 10px; }"));
+    for (QRadioButton* option : {Option1, Option2}) {
+        option->setFont(Twips::font(QStringLiteral("Times New Roman"), 12, true));
+        option->setBackgroundRole(QPalette::Window);
+        QPalette palette = option->palette();
+        palette.setColor(QPalette::WindowText, kInstructionInk);
+        option->setPalette(palette);
+    }
+    Twips::place(Option1, 240, 180, 1920, 480);
+    Twips::place(Option2, 2280, 180, 1920, 480);
+}
+
+void Y2fractions::Form_Load()
+{
+    loadButtonPictures();
+    Module1::setupform(*this);
+    setControlBackColour(Picture1, Module1::kActivityBack);
+    setControlBackColour(Option1, Module1::kActivityBack);
+    setControlBackColour(Option2, Module1::kActivityBack);
+    Picture1->show();
+
+    Module1::counter = 0;
+    Module1::activitytitle = QStringLiteral("Halves and Quarters 1");
+    Module1::questions = 10; // this activity's run is 10 unless the child chooses 20
+    showQuestionsChoice();
+    ++Module1::visits;
+    Forms::load<Grey>()->Timer2->setEnabled(true);
+}
+
+void Y2fractions::resetpics()
+{
+    for (PictureCell* cell : Image1) {
+        cell->hide();
+        cell->setSelected(false);
+    }
+}
+
+void Y2fractions::resetform()
+{
+    Image2->hide();
+    Label8->hide();
+}
+
+void Y2fractions::switchon()
+{
+    for (PictureCell* cell : Image1)
+        cell->setEnabled(true);
+    cmdcheck->setEnabled(true);
+    cmdhint->setEnabled(Module1::challenge == 0);
+}
+
+void Y2fractions::switchoff()
+{
+    for (PictureCell* cell : Image1)
+        cell->setEnabled(false);
+    cmdcheck->setEnabled(false);
+    cmdhint->setEnabled(false);
+}
+
+int Y2fractions::selectedCount() const
+{
+    int count = 0;
+    for (const PictureCell* cell : Image1)
+        count += cell->appearance() == 1;
+    return count;
+}
+
+void Y2fractions::newquestion()
+{
+    resetpics();
+    Picture1->hide();
+    Timer1->setEnabled(false);
+    showInstruction();
+
+    question = Halves::drawQuestion(lastset, question.howmany);
+    lastset = question.set;
+    Module1::setname = question.picname();
+    Label1->setText(question.instruction());
+    (question.parts == 2 ? Timer5 : Timer6)->setEnabled(true);
+
+    for (int i = 0; i < question.howmany; ++i) {
+        Image1[i]->setPicture(question.pictureFile(), question.picname());
+        Image1[i]->show();
+    }
+    switchon();
+}
+
+void Y2fractions::Image1_Click(int index)
+{
+    Timer4->setEnabled(false);
+    PictureCell* cell = Image1[index];
+    cell->setSelected(cell->borderStyle() == 0);
+    Label2->setText(QString());
+}
+
+void Y2fractions::showMessage(const QString& text)
+{
+    Label2->setText(text);
+    Label1->hide();
+    Label2->show();
+}
+
+void Y2fractions::showInstruction()
+{
+    Label2->hide();
+    Label1->show();
+}
+
+void Y2fractions::cmdcheck_Click()
+{
+    using namespace Module1;
+    switchoff();
+    for (FormTimer* timer : {Timer1, Timer3, Timer4, Timer5, Timer6})
+        timer->setEnabled(false);
+    const int count = selectedCount();
+
+    if (count == question.target) {
+        ++counter;
+        nextpicture(*this);
+        if (counter >= questions) {
+            counter = 0;
+            Label1->setText(QString());
+            for (PictureCell* cell : Image1)
+                cell->hide();
+            Label8->show();
+            cmdcheck->setEnabled(false);
+            cmdhint->setEnabled(false);
+            if (challenge > 0)
+                cmdexit_Click(); // the Challenge is won: back to the menu
+            else
+                showReadyMessage(Label8, QString::number(streak));
+            showwelldone(QStringLiteral("Halves and Quarters 2"));
+            return;
+        }
+        praise();
+        showMessage(praisetext + question.rightAnswer());
+        Timer3->setEnabled(true);
+    } else if (count == 0) {
+        // The same question comes back, with the child's marks kept.
+        showMessage(QStringLiteral("You must choose some pictures!"));
+        Timer1->setEnabled(true);
+    } else {
+        if (challenge > 0) {
+            challenge = 2;
+            pickpicture(*this); // the same picture starts again from nothing
+            showreward();
+        }
+        showMessage(Halves::shouldHaveClicked(question.target));
+        Timer3->setEnabled(true); // a new question: a wrong one is not asked again
+    }
+}
+
+void Y2fractions::cmdhint_Click()
+{
+    switchoff();
+    const int count = selectedCount();
+    if (count < question.target) {
+        showMessage(QStringLiteral("You have not chosen enough!"));
+        Timer1->setEnabled(true);
+    } else if (count == question.target) {
+        showMessage(QStringLiteral("You don't need a hint, you have the right answer!"));
+        cmdcheck->setEnabled(true);
+        cmdcheck->setFocus();
+    } else {
+        showMessage(QStringLiteral("You have chosen too many!"));
+        Timer1->setEnabled(true);
+    }
+}
+
+void Y2fractions::cmdstart_Click()
+{
+    Timer4->setEnabled(false);
+    resetform();
+    cmdhint->setEnabled(Module1::challenge == 0);
+    cmdcheck->setEnabled(true);
+    cmdprint->setEnabled(true);
+    cmdexit->setEnabled(true);
+    Frame1->show();
+    showQuestionsChoice(); // the certificate may have set the run's length
+    Timer3->setEnabled(false);
+    newquestion();
+    cmdcheck->setFocus();
+    Module1::pickpicture(*this);
+}
+
+void Y2fractions::cmdprint_Click()
+{
+    Worksheets::askAndPrint(QStringLiteral("y2fracprint1"));
+    cmdcheck->setFocus();
+}
+
+void Y2fractions::cmdexit_Click()
+{
+    Forms::showAndUnload(QStringLiteral("y2Intro"), this);
+}
+
+void Y2fractions::Timer1_Timer()
+{
+    showInstruction();
+    Timer1->setEnabled(false);
+    switchon(); // Hint only in practice
+    cmdcheck->setFocus();
+}
+
+void Y2fractions::Timer2_Timer()
+{
+    Timer2->setEnabled(false);
+    Timer3->setDesignInterval(kQuickTimer3Ms);
+    switchon();
+    cmdcheck_Click();
+    cmdcheck->setFocus();
+}
+
+void Y2fractions::Timer3_Timer()
+{
+    showInstruction();
+    Timer3->setEnabled(false);
+    Timer3->setDesignInterval(kTimer3Ms);
+    newquestion(); // Hint only in practice
+    setEnabled(true); // the reward picture's stars had the screen to themselves
+    cmdcheck->setFocus();
+}
+
+void Y2fractions::Timer4_Timer()
+{
+    // One hook for each picture set, where a set could greet the child
+    // before the first click; none of them does anything yet.
+    Timer4->setEnabled(false);
+}
+
+void Y2fractions::Timer5_Timer()
+{
+    Timer5->setEnabled(false);
+    Timer4->setEnabled(true);
+}
+
+void Y2fractions::Timer6_Timer()
+{
+    Timer6->setEnabled(false);
+    Timer4->setEnabled(true);
+}

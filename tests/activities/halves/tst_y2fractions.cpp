@@ -1,0 +1,352 @@
+// Halves and Quarters 1: the questions, the board, Check and Hint, and whole
+// games from the menu through practice and the Challenge back to the menu.
+#include "activities/halves/picturecell.h"
+#include "activities/halves/y2fractions.h"
+#include "rewards/grey.h"
+#include "rewards/reward.h"
+#include "rewards/welldone.h"
+#include "runtime/formtimer.h"
+#include "runtime/picturebox.h"
+#include "runtime/printtarget.h"
+#include "testsupport.h"
+
+#include <QAccessible>
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
+
+using namespace Module1;
+
+namespace {
+
+QList<PictureCell*> shownCells(Y2fractions* form)
+{
+    QList<PictureCell*> cells;
+    for (PictureCell* cell : form->Image1)
+        if (cell->isVisible())
+            cells << cell;
+    return cells;
+}
+
+void choose(Y2fractions* form, int n)
+{
+    for (int i = 0; i < n; ++i)
+        form->Image1[i]->click();
+}
+
+// Between two questions: the stars play to their end, then the pause ends.
+void nextQuestion(Y2fractions* form)
+{
+    if (Grey* grey = Forms::find<Grey>(); grey && grey->Timer1->isEnabled()) {
+        grey->Timer1_Timer();
+        for (int frame = 0; frame < 60 && Forms::isLoaded(QStringLiteral("Reward")); ++frame)
+            Forms::find<Reward>()->Timer1_Timer();
+        QVERIFY(!Forms::isLoaded(QStringLiteral("Reward")));
+    }
+    form->Timer3_Timer();
+}
+
+Y2fractions* openFromMenu()
+{
+    Forms::show(QStringLiteral("y2Intro"))->findChild<QPushButton*>(QStringLiteral("Command5"))->click();
+    TestSupport::flushUnloads();
+    return Forms::find<Y2fractions>();
+}
+
+// Start, then further questions until one asks for this many pictures (0: any).
+Y2fractions* startWithTarget(int target)
+{
+    Y2fractions* form = openFromMenu();
+    form->cmdstart->click();
+    for (int i = 0; i < 200 && target != 0 && form->question.target != target; ++i)
+        form->Timer3_Timer();
+    return form;
+}
+
+} // namespace
+
+class TestY2fractions : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void questionDraws_data();
+    void questionDraws();
+    void opensWaitingForStart();
+    void boardByMouseAndKeyboard();
+    void answerOutcomes_data();
+    void answerOutcomes();
+    void wholeGameByClicks_data();
+    void wholeGameByClicks();
+    void printAndExit();
+
+private:
+    TestSupport::World world;
+};
+
+void TestY2fractions::init()
+{
+    world.fresh(5);
+    version = QStringLiteral("0");
+    yearlabel = QStringLiteral("Year 2");
+    streak = 10;
+}
+
+void TestY2fractions::questionDraws_data()
+{
+    QTest::addColumn<quint64>("seed");
+    for (quint64 seed : {1ULL, 77ULL, 123456789ULL})
+        QTest::addRow("seed %llu", seed) << seed;
+}
+
+// Each question drawn after the one before: a count that is a multiple of
+// its parts, a target of 1 to 8, never the set or the count of the last
+// one; every set and every possible count turn up, halves as often as quarters.
+void TestY2fractions::questionDraws()
+{
+    QFETCH(quint64, seed);
+    Random::fixSeed(seed);
+    const QSet<int> halfCounts{2, 4, 6, 8, 10, 12, 14, 16}, quarterCounts{4, 8, 12, 16};
+    QSet<int> sets, halves, quarters;
+    int halfQuestions = 0;
+    Halves::Question last;
+    for (int i = 0; i < 2000; ++i) {
+        const Halves::Question q = Halves::drawQuestion(last.set, last.howmany);
+        QVERIFY(q.parts == 2 || q.parts == 4);
+        QVERIFY((q.parts == 2 ? halfCounts : quarterCounts).contains(q.howmany));
+        QVERIFY(q.target * q.parts == q.howmany && q.target >= 1 && q.target <= 8);
+        QVERIFY(q.set >= 1 && q.set <= 6 && q.set != last.set && q.howmany != last.howmany);
+        sets << q.set;
+        (q.parts == 2 ? halves : quarters) << q.howmany;
+        halfQuestions += q.parts == 2;
+        last = q;
+    }
+    QCOMPARE(sets.size(), 6);
+    QCOMPARE(halves, halfCounts);
+    QCOMPARE(quarters, quarterCounts);
+    QVERIFY(halfQuestions > 850 && halfQuestions < 1150); // the 3s are thrown away, not mapped
+}
+
+void TestY2fractions::opensWaitingForStart()
+{
+    questions = 20;
+    Y2fractions* form = openFromMenu();
+    QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("Y2fractions")});
+    QCOMPARE(questions, 10);
+    QVERIFY(form->Option1->isChecked() && form->Picture1->isVisible());
+    QCOMPARE(activitytitle, QStringLiteral("Halves and Quarters 1"));
+    QCOMPARE(visits, 1);
+    QVERIFY(Forms::find<Grey>()->Timer2->isEnabled());
+    QVERIFY(shownCells(form).isEmpty() && !form->Label8->isVisible());
+    QVERIFY(!form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
+
+    // A 4 x 4 grid in index order of cells for small fingers, clear of the
+    // reward picture (short or tall), the options and the instruction,
+    // which holds the longest message.
+    const QRect picture(form->Image2->x(), 40, 288, 280);
+    for (PictureCell* cell : form->Image1) {
+        const QRect r(cell->mapTo(form, QPoint(0, 0)), cell->size());
+        const int i = cell->index();
+        QVERIFY(r.width() >= 64 && r.height() >= 64 && form->rect().contains(r));
+        QVERIFY(!r.intersects(picture) && !r.intersects(form->Label1->geometry())
+                && !r.intersects(form->Frame1->geometry()));
+        QVERIFY(i % 4 == 0 || form->Image1[i - 1]->geometry().right() < cell->x());
+        QVERIFY(i < 4 || form->Image1[i - 4]->geometry().bottom() < cell->y());
+    }
+    QLabel* message = form->Label2;
+    QCOMPARE(message->geometry(), form->Label1->geometry());
+    message->setText(QStringLiteral("Smart cookie! You chose one quarter of the dinosaurs"));
+    QVERIFY(message->heightForWidth(message->width()) <= message->height());
+}
+
+void TestY2fractions::boardByMouseAndKeyboard()
+{
+    Y2fractions* form = startWithTarget(0);
+    for (int q = 0; q < 30; ++q, form->Timer3_Timer()) {
+        const Halves::Question& question = form->question;
+        QCOMPARE(shownCells(form), form->Image1.mid(0, question.howmany));
+        QCOMPARE(shownCells(form).last()->picturePath(), question.pictureFile());
+        QCOMPARE(form->Label1->text() + setname, question.instruction() + question.picname());
+        // The fraction's own timer, then the per-set hook.
+        QCOMPARE(form->Timer5->isEnabled() + 2 * form->Timer6->isEnabled(), question.parts / 2);
+        question.parts == 2 ? form->Timer5_Timer() : form->Timer6_Timer();
+        QVERIFY(form->Timer4->isEnabled());
+        form->Timer4_Timer();
+    }
+    PictureCell* cell = form->Image1[1];
+    form->Label2->setText(QStringLiteral("old"));
+    form->Timer4->setEnabled(true);
+    cell->click(); // which stops the hook and clears the message
+    QVERIFY(!form->Timer4->isEnabled());
+    QCOMPARE(form->Label2->text(), QString());
+    QCOMPARE(cell->property("Appearance").toInt() + cell->property("BorderStyle").toInt(), 2);
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(cell);
+    QCOMPARE(spoken->text(QAccessible::Name), form->question.picname());
+    QVERIFY(spoken->state().checkable && spoken->state().checked);
+    cell->click();
+    QCOMPARE(cell->property("Appearance").toInt() + cell->property("BorderStyle").toInt(), 0);
+    QVERIFY(!spoken->state().checked);
+
+    // Tab from Check reaches the first picture, Space chooses it, Enter checks.
+    QApplication::setActiveWindow(form);
+    form->cmdcheck->setFocus();
+    QTest::keyClick(form->cmdcheck, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), form->Image1[0]);
+    QTest::keyClick(form->Image1[0], Qt::Key_Space);
+    QCOMPARE(form->selectedCount(), 1);
+    QTest::keyClick(form->Image1[0], Qt::Key_Backtab);
+    QTest::keyClick(form->cmdcheck, Qt::Key_Return);
+    QVERIFY(form->Label2->isVisible() && !form->cmdcheck->isEnabled());
+    form->Image1[2]->click(); // a checked board no longer reacts
+    QCOMPARE(form->selectedCount(), 1);
+
+    // Timer2's quick check shortens the next pause once.
+    form->Timer1_Timer();
+    form->Timer2_Timer();
+    QVERIFY(!form->cmdcheck->isEnabled());
+    QCOMPARE(form->Timer3->interval(), 500);
+    form->Timer3_Timer();
+    QCOMPARE(form->Timer3->interval(), 3000);
+}
+
+void TestY2fractions::answerOutcomes_data()
+{
+    QTest::addColumn<bool>("hint"); // Hint pressed, or Check
+    QTest::addColumn<int>("target");
+    QTest::addColumn<int>("chosen");
+    QTest::addColumn<QString>("message"); // after the praise, for a right answer
+    QTest::addColumn<int>("timer");       // 1: the same question comes back; 3: a new one; 0: Check waits
+    QTest::newRow("right, 1") << false << 1 << 1 << "You chose one " << 3;
+    QTest::newRow("right, 5") << false << 5 << 5 << "You chose one half of the " << 3;
+    QTest::newRow("none") << false << 3 << 0 << "You must choose some pictures!" << 1;
+    QTest::newRow("1 too many") << false << 1 << 2 << "You should have clicked on 1 picture" << 3;
+    QTest::newRow("1 too few") << false << 2 << 1 << "You should have clicked on 2 pictures" << 3;
+    QTest::newRow("hint, not enough") << true << 2 << 1 << "You have not chosen enough!" << 1;
+    QTest::newRow("hint, just right") << true << 2 << 2 << "You don't need a hint, you have the right answer!" << 0;
+    QTest::newRow("hint, too many") << true << 2 << 3 << "You have chosen too many!" << 1;
+}
+
+void TestY2fractions::answerOutcomes()
+{
+    QFETCH(bool, hint);
+    QFETCH(int, target);
+    QFETCH(int, chosen);
+    QFETCH(QString, message);
+    QFETCH(int, timer);
+    Y2fractions* form = startWithTarget(target);
+    const Halves::Question asked = form->question;
+    choose(form, chosen);
+    (hint ? form->cmdhint : form->cmdcheck)->click();
+    const bool right = !hint && chosen == target;
+    QVERIFY(form->Label2->isVisible() && !form->Label1->isVisible());
+    QCOMPARE(form->Label2->text(), right ? praisetext + asked.rightAnswer() : message);
+    QVERIFY(form->Label2->text().contains(message));
+    QCOMPARE(counter, right ? 1 : 0);
+    QCOMPARE(form->Image2->isVisible(), right);
+    QCOMPARE(form->isEnabled(), !right); // the stars have the screen until the next question
+    QCOMPARE(form->Timer1->isEnabled(), timer == 1);
+    QCOMPARE(form->Timer3->isEnabled(), timer == 3);
+    QCOMPARE(form->cmdcheck->isEnabled(), timer == 0);
+    QVERIFY(!form->cmdhint->isEnabled() && !form->Image1[0]->isEnabled());
+    if (timer == 0) {
+        form->cmdcheck->click();
+        QCOMPARE(counter, 1);
+        return;
+    }
+    timer == 1 ? form->Timer1_Timer() : nextQuestion(form);
+    QCOMPARE(form->question.set == asked.set, timer == 1);
+    QCOMPARE(form->selectedCount(), timer == 1 ? chosen : 0);
+    QVERIFY(form->isEnabled() && form->Label1->isVisible() && !form->Label2->isVisible());
+    QVERIFY(form->cmdcheck->isEnabled() && form->cmdhint->isEnabled() && form->Image1[0]->isEnabled());
+}
+
+void TestY2fractions::wholeGameByClicks_data()
+{
+    QTest::addColumn<bool>("twenty");
+    QTest::newRow("10 questions") << false;
+    QTest::newRow("20 questions") << true;
+}
+
+// A game as a child plays it, reading the instruction and the pictures off
+// the screen: practice with a slip and a hint (neither costs anything) to
+// the certificate, then the Challenge with a slip that starts the same
+// picture again, then the certificate back at the menu.
+void TestY2fractions::wholeGameByClicks()
+{
+    QFETCH(bool, twenty);
+    Y2fractions* form = openFromMenu();
+    if (twenty)
+        QTest::mouseClick(form->Option2, Qt::LeftButton, {}, QPoint(8, form->Option2->height() / 2));
+    const int run = twenty ? 20 : 10;
+    QCOMPARE(questions, run);
+    QTest::mouseClick(form->cmdstart, Qt::LeftButton);
+    const QString picture = picset;
+    auto answer = [form](int extra) {
+        const QList<PictureCell*> cells = shownCells(form);
+        const int parts = form->Label1->text().contains(QLatin1String("one half")) ? 2 : 4;
+        for (int i = 0; i < cells.size() / parts + extra; ++i)
+            QTest::mouseClick(cells[i], Qt::LeftButton);
+        QTest::mouseClick(form->cmdcheck, Qt::LeftButton);
+    };
+    int asked = 0;
+    for (; !Forms::isLoaded(QStringLiteral("Welldone")) && asked < 40; ++asked) {
+        if (asked == 3)
+            QTest::mouseClick(form->cmdhint, Qt::LeftButton), form->Timer1_Timer();
+        answer(asked == 4 ? 1 : 0);
+        if (Forms::isLoaded(QStringLiteral("Welldone")))
+            break;
+        QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picture, counter * 20 / run));
+        nextQuestion(form);
+    }
+    QCOMPARE(asked, run); // and the last answer, which ended the loop: one wrong, the rest right
+    QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picture, 20));
+    QVERIFY(shownCells(form).isEmpty() && form->Label8->isVisible());
+    QCOMPARE(form->Label8->text(), ActivityForm::readyText(QStringLiteral("10")));
+    QTest::mouseClick(Forms::find<Welldone>()->cmdexit, Qt::LeftButton);
+    QCOMPARE(challenge, 1);
+
+    // The Challenge is as long as the year's run, and the options say so.
+    QTest::mouseClick(form->cmdstart, Qt::LeftButton);
+    QVERIFY(form->Option1->isChecked() && !form->Option2->isChecked());
+    const QString challengePicture = picset;
+    for (asked = 0; Forms::isLoaded(QStringLiteral("Y2fractions")) && asked < 40; ++asked) {
+        QVERIFY(!form->cmdhint->isEnabled());
+        answer(asked == 2 ? -1 : 0);
+        if (asked == 2) {
+            QCOMPARE(challenge, 2);
+            QCOMPARE(counter, 0);
+            QCOMPARE(picset, challengePicture);
+            QVERIFY(!form->Image2->isVisible());
+            QVERIFY(Forms::find<Reward>()->Label1->isVisible());
+            Forms::find<Reward>()->Timer2_Timer();
+        }
+        TestSupport::flushUnloads();
+        if (Forms::isLoaded(QStringLiteral("Y2fractions")))
+            nextQuestion(form);
+    }
+    QCOMPARE(asked, streak + 3);
+    QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y2Intro")}));
+    QCOMPARE(Forms::find<Welldone>()->Label1->text(), QStringLiteral("Congratulations!!! You have risen to the Challenge."));
+}
+
+void TestY2fractions::printAndExit()
+{
+    QTemporaryDir pdfs;
+    PrintTarget::setPdfFolder(pdfs.path());
+    Y2fractions* form = startWithTarget(0);
+    form->cmdprint->setFocus();
+    for (MsgBox::Answer answer : {MsgBox::Answer::No, MsgBox::Answer::Yes})
+        world.answer = answer, form->cmdprint->click();
+    PrintTarget::setPdfFolder(QString());
+    QCOMPARE(world.messages.size(), 2);
+    QCOMPARE(world.messages[1].text + world.messages[1].title, QStringLiteral("Do you really want to print?Year 2"));
+    QCOMPARE(QDir(pdfs.path()).entryList({QStringLiteral("*.pdf")}).size(), 1);
+    QCOMPARE(form->focusWidget(), form->cmdcheck);
+    form->cmdexit->click();
+    TestSupport::flushUnloads();
+    QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("y2Intro")});
+}
+
+QTEST_MAIN(TestY2fractions)
+#include "tst_y2fractions.moc"
