@@ -24,10 +24,12 @@ constexpr int kMargin = 120;
 constexpr int kPictureLeft = kMargin;
 constexpr int kBoardLeft = 4560;
 constexpr int kBoardWidth = Form::kScreenScaleWidthTwips - kMargin - kBoardLeft;
-constexpr int kLabelTop = 1200;
-constexpr int kLabelHeight = 720;
-constexpr int kBoardTop = 1980;
-constexpr int kBoardHeight = 6420 - kBoardTop;
+// The board stands right under the buttons and the instruction under the
+// board, so a message stays in sight while the stars play over the board.
+constexpr int kBoardTop = 1200;
+constexpr int kBoardHeight = 5460 - kBoardTop;
+constexpr int kLabelTop = kBoardTop + kBoardHeight + 60;
+constexpr int kLabelHeight = 900;
 constexpr int kColumns = 4;
 constexpr int kCellGap = 90;
 constexpr int kPanelTop = 1320;
