@@ -1,5 +1,6 @@
 #include "screens.h"
 
+#include "activities/mixed/y5fract4.h"
 #include "form1.h"
 #include "menus/activitymenu.h"
 #include "menus/comingsoon.h"
@@ -36,4 +37,5 @@ void registerScreens()
     add<y2fracprint1>();
     add<y5fracprint4>();
     add<y6fracprint3>();
+    add<y5fract4>();
 }
