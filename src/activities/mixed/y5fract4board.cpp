@@ -35,7 +35,8 @@ constexpr int kInstructionTop = 1230;
 constexpr int kInstructionHeight = 600;
 constexpr int kPanelTop = 1890;
 constexpr int kPanelHeight = 3450;
-constexpr int kPictureLeft = 4080;
+// Under the ready message, which stands at Left 4035, Width 4860.
+constexpr int kPictureLeft = 4305;
 constexpr int kPictureTop = 1200;
 constexpr int kBandTop = 5460;
 constexpr int kBandWidth = 9240;
@@ -51,7 +52,7 @@ constexpr int kOpeningHeight = 3960;
 // The numbers in a panel: cells of one or two digits, a fraction being a
 // numerator cell over a bar over a denominator cell.
 constexpr double kNumberPoints = 32;
-constexpr int kCellWidth = 900;
+constexpr int kCellWidth = 780;
 constexpr int kCellHeight = 960;
 constexpr int kBarGap = 60;
 constexpr int kBarThickness = 60;
@@ -63,7 +64,10 @@ constexpr int kDenominatorTop = kBarTop + kBarThickness + kBarGap;
 // A whole number and the "=" stand level with the bar.
 constexpr int kBesideTop = kBarTop + kBarThickness / 2 - kCellHeight / 2;
 constexpr int kFirstColumn = 150;
-constexpr int kColumnGap = 30;
+// Between the given number, the "=" and the answer; a whole number stands
+// closer to its fraction.
+constexpr int kColumnGap = 120;
+constexpr int kWholeGap = 60;
 
 void setInk(QWidget* control, const QColor& ink, const QColor& back)
 {
@@ -177,7 +181,7 @@ void y5fract4::buildBoard()
     const int given = kFirstColumn;
     const int equals = given + kCellWidth + kColumnGap;
     const int wholeBox = equals + kEqualsWidth + kColumnGap;
-    const int fractionBox = wholeBox + kCellWidth + kColumnGap;
+    const int fractionBox = wholeBox + kCellWidth + kWholeGap;
     Label7 = number(Picture2, "Label7", given, kNumeratorTop);
     Line1 = bar(Picture2, "Line1", given);
     Label9 = number(Picture2, "Label9", given, kDenominatorTop);
@@ -192,7 +196,7 @@ void y5fract4::buildBoard()
     // A mixed number = an improper fraction.
     Picture3 = panel(this, "Picture3", kColumnLeft, kPanelTop, kColumnWidth, kPanelHeight, kPanelPaper);
     const int wholeLabel = kFirstColumn;
-    const int givenFraction = wholeLabel + kCellWidth + kColumnGap;
+    const int givenFraction = wholeLabel + kCellWidth + kWholeGap;
     const int equals3 = givenFraction + kCellWidth + kColumnGap;
     const int answer = equals3 + kEqualsWidth + kColumnGap;
     Label19 = number(Picture3, "Label19", wholeLabel, kBesideTop, Qt::AlignRight | Qt::AlignVCenter);
@@ -205,6 +209,7 @@ void y5fract4::buildBoard()
     Label17 = number(Picture3, "Label17", answer, kNumeratorTop);
     Line4 = bar(Picture3, "Line4", answer);
     Label14 = number(Picture3, "Label14", answer, kDenominatorTop);
+    Picture2->hide();
     Picture3->hide();
 
     // Each answer box lies over the label that replaces it.
@@ -236,8 +241,11 @@ void y5fract4::buildBoard()
 
     // The end of a run; the ready message moves it over the picture.
     Label80 = label(this, "Label80", QStringLiteral("Click Start to have another go... or click Exit"),
-                    Twips::font(kSerif, 16, true), kWhite, Qt::AlignCenter);
-    setControlBackColour(Label80, kActivityBack);
+                    Twips::font(kSerif, 16, true), kPanelInk, Qt::AlignCenter);
+    // A card in the panels' colours, over the finished picture.
+    Label80->setStyleSheet(QStringLiteral("QLabel { background: %1; color: %2; border: 3px solid %3;"
+                                          " border-radius: 10px; padding: 12px; }")
+                               .arg(rgb(kPanelPaper), rgb(kPanelInk), rgb(kWhite)));
     Twips::place(Label80, kColumnLeft, kPanelTop, kColumnWidth, kPanelHeight);
     Label80->hide();
 

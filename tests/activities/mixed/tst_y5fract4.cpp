@@ -277,6 +277,7 @@ void TestY5fract4::practiceThenChallenge()
     QCOMPARE(activitytitle, form->Label4->text());
     QCOMPARE(visits, 1);
     QVERIFY(form->Option2->isChecked());
+    QVERIFY(form->Picture1->isVisible() && !form->Picture2->isVisible() && !form->Picture3->isVisible());
     QVERIFY(!form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
     form->Option1->click();
     QCOMPARE(questions, 10);
