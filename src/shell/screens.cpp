@@ -1,6 +1,7 @@
 #include "screens.h"
 
 #include "activities/halves/y2fractions.h"
+#include "activities/mixed/y5fract4.h"
 #include "form1.h"
 #include "menus/activitymenu.h"
 #include "menus/comingsoon.h"
@@ -38,4 +39,5 @@ void registerScreens()
     add<y5fracprint4>();
     add<y6fracprint3>();
     add<Y2fractions>();
+    add<y5fract4>();
 }

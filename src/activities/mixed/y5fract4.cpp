@@ -1,0 +1,334 @@
+#include "y5fract4.h"
+
+#include "answerbox.h"
+#include "rewards/grey.h"
+#include "runtime/formtimer.h"
+#include "runtime/forms.h"
+#include "runtime/picturebox.h"
+#include "runtime/random.h"
+#include "shell/module1.h"
+#include "worksheets/printforms.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+using namespace Module1;
+
+namespace {
+// The certificate's title as this screen passes it; the certificate does not use it.
+const QString kCertificateTitle = QStringLiteral("Equivalent Fractions 3");
+
+bool isTabOrEnter(int keyAscii)
+{
+    return keyAscii == AnswerBox::kTab || keyAscii == AnswerBox::kEnter;
+}
+
+void keepOnlyDigits(int& keyAscii)
+{
+    if (!AnswerBox::isKept(keyAscii))
+        keyAscii = 0;
+}
+
+int boxValue(const QLineEdit* box)
+{
+    return AnswerBox::value(box->text());
+}
+} // namespace
+
+y5fract4::y5fract4()
+    : ActivityForm(QStringLiteral("y5fract4"))
+    , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
+    , Timer2(addTimer(QStringLiteral("Timer2"), kTimer2Ms))
+    , Timer3(addTimer(QStringLiteral("Timer3"), kTimer3Ms))
+    , Timer4(addTimer(QStringLiteral("Timer4"), kTimer4Ms))
+    , Timer5(addTimer(QStringLiteral("Timer5"), kTimer5Ms))
+    , Timer6(addTimer(QStringLiteral("Timer6"), kTimer6Ms))
+    , Timer7(addTimer(QStringLiteral("Timer7"), kTimer7Ms))
+{
+    buildBoard();
+    connect(cmdstart, &QPushButton::clicked, this, &y5fract4::cmdstart_Click);
+    connect(cmdcheck, &QPushButton::clicked, this, &y5fract4::cmdcheck_Click);
+    connect(cmdhint, &QPushButton::clicked, this, &y5fract4::cmdhint_Click);
+    connect(cmdexit, &QPushButton::clicked, this, &y5fract4::cmdexit_Click);
+    connect(cmdprint, &QPushButton::clicked, this, &y5fract4::cmdprint_Click);
+    connect(Timer1, &QTimer::timeout, this, &y5fract4::Timer1_Timer);
+    connect(Timer3, &QTimer::timeout, this, &y5fract4::Timer3_Timer);
+    connect(Timer4, &QTimer::timeout, this, &y5fract4::Timer4_Timer);
+    connect(Timer5, &QTimer::timeout, this, &y5fract4::Timer5_Timer);
+    connect(Timer6, &QTimer::timeout, this, &y5fract4::Timer6_Timer);
+    connect(Timer7, &QTimer::timeout, this, &y5fract4::Timer7_Timer);
+}
+
+void y5fract4::Form_Load()
+{
+    setupform(*this);
+    loadButtonPictures();
+    cmdcheck->setEnabled(false);
+    cmdhint->setEnabled(false);
+    showQuestionsChoice();
+    Picture1->show();
+    activitytitle = Label4->text();
+    visits += 1;
+    Forms::load<Grey>()->Timer2->setEnabled(true);
+}
+
+void y5fract4::cmdstart_Click()
+{
+    for (QWidget* w : std::initializer_list<QWidget*>{Picture1, Label18, Label20, Label2, Label80, Label8, Label10})
+        w->hide();
+    Label5->show();
+    Timer5->setEnabled(true);
+    counter = 0;
+    cmdprint->setEnabled(true);
+    cmdexit->setEnabled(true);
+    if (challenge == 0)
+        cmdhint->setEnabled(true);
+    Frame1->show();
+    Label1->show();
+    Image2->clear();
+    Timer1->setEnabled(false);
+    Timer2->setEnabled(false);
+    Timer3->setEnabled(false);
+    for (QWidget* w : std::initializer_list<QWidget*>{Label7, Label9, Text2, Text4, Line1, Line2, Label11})
+        w->show();
+    newquestion();
+    pickpicture(*this);
+}
+
+void y5fract4::newquestion()
+{
+    setEnabled(true);
+    Random::Randomize();
+    if (MixedQuestion::drawDirection() == MixedQuestion::kToMixed) {
+        Label1->setText(QStringLiteral("Change to a mixed number..."));
+        Timer6->setEnabled(true);
+        Label5->setText(QStringLiteral("Type in the correct mixed number and use the ENTER key to move on"));
+        Text2->setEnabled(false);
+        Text4->setEnabled(false);
+        Text1->setEnabled(true);
+        for (QLineEdit* box : {Text1, Text2, Text4}) {
+            box->clear();
+            box->show();
+        }
+        Picture3->hide();
+        Picture2->show();
+        m_question = MixedQuestion::drawImproper();
+        Label7->setText(QString::number(m_question.improperNumerator()));
+        Label9->setText(QString::number(m_question.denom));
+        m_answertext = m_question.answerText();
+        Text1->setFocus();
+    } else {
+        Label1->setText(QStringLiteral("Change to an improper fraction..."));
+        Timer7->setEnabled(true);
+        Label5->setText(QStringLiteral("Type in the correct fraction and use the ENTER key to move on"));
+        Text5->setEnabled(false);
+        Text3->setEnabled(true);
+        for (QLineEdit* box : {Text3, Text5}) {
+            box->clear();
+            box->show();
+        }
+        Picture2->hide();
+        Picture3->show();
+        m_question = MixedQuestion::drawMixed();
+        Label19->setText(QString::number(m_question.whole));
+        Label15->setText(QString::number(m_question.denom));
+        Label16->setText(QString::number(m_question.numer));
+        m_answertext = m_question.answerText();
+        Text3->setFocus();
+    }
+}
+
+bool y5fract4::enter(QLineEdit* box, QLabel* label)
+{
+    if (!AnswerBox::isAccepted(box->text())) {
+        // An empty box or a 0 is refused without a word.
+        box->clear();
+        box->setFocus();
+        return false;
+    }
+    label->setText(box->text());
+    label->show();
+    box->hide();
+    return true;
+}
+
+void y5fract4::Text1_KeyPress(int& KeyAscii)
+{
+    if (isTabOrEnter(KeyAscii) && enter(Text1, Label12)) {
+        Text4->setEnabled(true);
+        Text4->setFocus();
+    }
+    keepOnlyDigits(KeyAscii);
+}
+
+void y5fract4::Text4_KeyPress(int& KeyAscii)
+{
+    if (isTabOrEnter(KeyAscii) && enter(Text4, Label8)) {
+        Text2->setEnabled(true);
+        Text2->setFocus();
+    }
+    keepOnlyDigits(KeyAscii);
+}
+
+void y5fract4::Text2_KeyPress(int& KeyAscii)
+{
+    if (isTabOrEnter(KeyAscii) && enter(Text2, Label10)) {
+        Label18->hide();
+        Text2->setEnabled(false);
+        cmdcheck_Click();
+    }
+    keepOnlyDigits(KeyAscii);
+}
+
+void y5fract4::Text3_KeyPress(int& KeyAscii)
+{
+    if (isTabOrEnter(KeyAscii) && enter(Text3, Label17)) {
+        Text5->setEnabled(true);
+        Text5->setFocus();
+    }
+    keepOnlyDigits(KeyAscii);
+}
+
+void y5fract4::Text5_KeyPress(int& KeyAscii)
+{
+    if (isTabOrEnter(KeyAscii) && enter(Text5, Label14)) {
+        Label18->hide();
+        Label20->hide();
+        cmdcheck_Click();
+    }
+    keepOnlyDigits(KeyAscii);
+}
+
+void y5fract4::cmdcheck_Click()
+{
+    MixedQuestion::Entries typed;
+    typed.t1 = boxValue(Text1);
+    typed.t2 = boxValue(Text2);
+    typed.t3 = boxValue(Text3);
+    typed.t4 = boxValue(Text4);
+    typed.t5 = boxValue(Text5);
+
+    if (m_question.isAnswer(typed)) {
+        counter += 1;
+        nextpicture(*this);
+        if (counter >= questions) {
+            counter = 0;
+            Label1->setText(QString());
+            Label5->hide();
+            Picture2->hide();
+            Picture3->hide();
+            Label80->show();
+            cmdcheck->setEnabled(false);
+            cmdhint->setEnabled(false);
+            if (challenge > 0) {
+                cmdexit_Click();
+            } else {
+                // A number is written with a blank before it where a minus would stand.
+                const QString run = QString::number(streak);
+                showReadyMessage(Label80, streak >= 0 ? QStringLiteral(" ") + run : run);
+            }
+            showwelldone(kCertificateTitle);
+            return;
+        }
+        praise();
+        Label2->setText(praisetext + QStringLiteral(" ") + m_answertext);
+        Label1->hide();
+        Label2->show();
+        Timer1->setEnabled(true);
+        return;
+    }
+
+    if (challenge > 0) {
+        challenge = 2;
+        pickpicture(*this);
+        showreward();
+    }
+    Label2->setText(QStringLiteral("Incorrect! ") + m_answertext);
+    Label1->hide();
+    Label2->show();
+    Timer3->setEnabled(true);
+}
+
+void y5fract4::cmdhint_Click()
+{
+    if (Label5->isVisible()) {
+        Timer5->setEnabled(false);
+        Label5->hide();
+    }
+    if (m_question.direction == MixedQuestion::kToMixed) {
+        if (Text1->isVisible())
+            Text1->setFocus();
+        Label18->setText(m_question.hintText());
+        Label18->show();
+    } else {
+        if (Text3->isVisible())
+            Text3->setFocus();
+        Label18->setText(m_question.hintText());
+        Label18->show();
+        Label20->setText(m_question.productText());
+        Label20->show();
+    }
+}
+
+void y5fract4::Timer1_Timer()
+{
+    Timer1->setEnabled(false);
+    Timer1->setDesignInterval(kTimer1Ms);
+    Label2->hide();
+    Label1->show();
+    newquestion();
+    if (challenge == 0)
+        cmdhint->setEnabled(true);
+    setEnabled(true);
+}
+
+void y5fract4::Timer3_Timer()
+{
+    Timer3->setEnabled(false);
+    Label2->hide();
+    Label1->show();
+    // A wrong answer is followed by a new question, not the same one again.
+    newquestion();
+    if (challenge == 0)
+        cmdhint->setEnabled(true);
+}
+
+void y5fract4::Timer4_Timer()
+{
+    Timer4->setEnabled(false);
+    Timer1->setDesignInterval(kTimer1QuickMs);
+    cmdcheck_Click();
+}
+
+void y5fract4::Timer5_Timer()
+{
+    Timer5->setEnabled(false);
+    Label5->hide();
+}
+
+void y5fract4::Timer6_Timer()
+{
+    Timer6->setEnabled(false);
+}
+
+void y5fract4::Timer7_Timer()
+{
+    Timer7->setEnabled(false);
+}
+
+void y5fract4::cmdexit_Click()
+{
+    Forms::showAndUnload(QStringLiteral("y5Intro2"), this);
+}
+
+void y5fract4::cmdprint_Click()
+{
+    Worksheets::askAndPrint(QStringLiteral("y5fracprint4"));
+}
+
+void y5fract4::closeBoxPressed()
+{
+    cmdexit_Click();
+}

@@ -1,0 +1,275 @@
+#include "activities/mixed/y5fract4.h"
+#include "rewards/grey.h"
+#include "rewards/reward.h"
+#include "rewards/welldone.h"
+#include "runtime/formtimer.h"
+#include "runtime/picturebox.h"
+#include "testsupport.h"
+
+#include <QClipboard>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
+
+using namespace Module1;
+
+namespace {
+const int kToMixed = MixedQuestion::kToMixed;
+const int kToImproper = MixedQuestion::kToImproper;
+
+y5fract4* openScreen()
+{
+    yearlabel = QStringLiteral("Year 5");
+    streak = 20;
+    return qobject_cast<y5fract4*>(Forms::show(QStringLiteral("y5fract4")));
+}
+
+// Start is pressed until a question of that direction comes up.
+void startWith(y5fract4* form, int direction)
+{
+    do
+        form->cmdstart_Click();
+    while (form->question().direction != direction);
+}
+
+void type(QLineEdit* box, const QString& keys, Qt::Key end = Qt::Key_Return)
+{
+    QTest::keyClicks(box, keys);
+    QTest::keyClick(box, end);
+}
+
+// The boxes of the question on show, in order, with their labels and the
+// numbers that answer it.
+struct Step {
+    QLineEdit* box;
+    QLabel* label;
+    int number;
+};
+QList<Step> steps(y5fract4* f)
+{
+    const MixedQuestion q = f->question();
+    if (q.direction == kToMixed)
+        return {{f->Text1, f->Label12, q.whole}, {f->Text4, f->Label8, q.numer}, {f->Text2, f->Label10, q.denom}};
+    return {{f->Text3, f->Label17, q.improperNumerator()}, {f->Text5, f->Label14, q.denom}};
+}
+
+// Types the answer box by box, ENTER and Tab in turn.
+void answer(y5fract4* form)
+{
+    const QList<Step> all = steps(form);
+    for (int i = 0; i < all.size(); ++i)
+        type(all[i].box, QString::number(all[i].number), i % 2 ? Qt::Key_Tab : Qt::Key_Return);
+}
+} // namespace
+
+class TestY5fract4 : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { world.fresh(); }
+    void boxesTakeOnlyDigits_data();
+    void boxesTakeOnlyDigits();
+    void boxesLeadOnAndTheLastChecks_data();
+    void boxesLeadOnAndTheLastChecks();
+    void practiceThenChallenge();
+    void failedChallengeBeginsAgain();
+
+private:
+    TestSupport::World world;
+};
+
+void TestY5fract4::boxesTakeOnlyDigits_data()
+{
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("text");
+    for (int direction : {kToMixed, kToImproper}) {
+        const char* way = direction == kToMixed ? "mixed" : "improper";
+        QTest::addRow("%s letters", way) << direction << "aZ4q" << "4";
+        QTest::addRow("%s blank and minus", way) << direction << " -7" << "7";
+        QTest::addRow("%s point", way) << direction << "3.5" << "35";
+        QTest::addRow("%s two digits at most", way) << direction << "123" << "12";
+    }
+}
+
+void TestY5fract4::boxesTakeOnlyDigits()
+{
+    QFETCH(int, direction);
+    QFETCH(QString, keys);
+    QFETCH(QString, text);
+    y5fract4* form = openScreen();
+    startWith(form, direction);
+    QLineEdit* box = direction == kToMixed ? form->Text1 : form->Text3;
+    for (const QChar c : keys) {
+        int code = c.unicode();
+        direction == kToMixed ? form->Text1_KeyPress(code) : form->Text3_KeyPress(code);
+        QCOMPARE(code != 0, c.isDigit());
+    }
+    QTest::keyClicks(box, keys);
+    QCOMPARE(box->text(), text);
+    QTest::keyClick(box, Qt::Key_Backspace);
+    QCOMPARE(box->text(), text.chopped(1));
+
+    // Nothing but digits comes in by pasting either.
+    box->clear();
+    QGuiApplication::clipboard()->setText(QStringLiteral("5a"));
+    QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
+    box->paste();
+    QCOMPARE(box->text(), QString());
+}
+
+void TestY5fract4::boxesLeadOnAndTheLastChecks_data()
+{
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<QString>("refused");
+    QTest::addColumn<int>("end");
+    for (int direction : {kToMixed, kToImproper}) {
+        const char* way = direction == kToMixed ? "mixed" : "improper";
+        QTest::addRow("%s, empty ENTER", way) << direction << "" << int(Qt::Key_Return);
+        QTest::addRow("%s, zero ENTER", way) << direction << "0" << int(Qt::Key_Enter);
+        QTest::addRow("%s, zeros Tab", way) << direction << "00" << int(Qt::Key_Tab);
+    }
+}
+
+// The hint replaces the typing instruction; each box refuses an empty or
+// zero entry without a word, then gives way to its label and opens the
+// next; the last one checks at once.
+void TestY5fract4::boxesLeadOnAndTheLastChecks()
+{
+    QFETCH(int, direction);
+    QFETCH(QString, refused);
+    QFETCH(int, end);
+    y5fract4* form = openScreen();
+    startWith(form, direction);
+    const MixedQuestion q = form->question();
+    QVERIFY(form->Label5->isVisible() && form->Timer5->isEnabled());
+    form->cmdhint->click();
+    QVERIFY(!form->Label5->isVisible() && !form->Timer5->isEnabled());
+    QVERIFY(form->Label18->isVisible());
+    QCOMPARE(form->Label18->text(), q.hintText());
+    QCOMPARE(form->Label20->isVisible(), direction == kToImproper);
+    QCOMPARE(form->Label20->text(), q.productText());
+
+    const QList<Step> all = steps(form);
+    for (int i = 0; i < all.size(); ++i) {
+        const Step& s = all[i];
+        QCOMPARE(form->focusWidget(), s.box);
+        for (int j = i + 1; j < all.size(); ++j)
+            QVERIFY(!all[j].box->isEnabled());
+        type(s.box, refused, Qt::Key(end));
+        QVERIFY(s.box->isVisible() && s.box->text().isEmpty());
+        QCOMPARE(form->focusWidget(), s.box);
+        QVERIFY(!form->Label2->isVisible());
+        type(s.box, QString::number(s.number), Qt::Key(end));
+        QVERIFY(!s.box->isVisible() && s.label->isVisible());
+        QCOMPARE(s.label->text(), QString::number(s.number));
+        if (i + 1 < all.size())
+            QVERIFY(all[i + 1].box->isEnabled());
+    }
+    QCOMPARE(counter, 1);
+    QCOMPARE(form->Label2->text(), praisetext + QStringLiteral(" ") + q.answerText());
+    QVERIFY(form->Label2->isVisible() && !form->Label1->isVisible());
+    QVERIFY(!form->Label18->isVisible() && !form->Label20->isVisible());
+    QVERIFY(!form->isEnabled() && !form->cmdhint->isEnabled());
+    QVERIFY(form->Timer1->isEnabled() && Forms::find<Grey>()->Timer1->isEnabled());
+    QVERIFY(world.messages.isEmpty());
+
+    // The next question gives the screen back with fresh boxes.
+    form->Timer1_Timer();
+    QVERIFY(form->isEnabled() && form->cmdhint->isEnabled());
+    QVERIFY(form->Label1->isVisible() && !form->Label2->isVisible());
+    const Step first = steps(form).first();
+    QVERIFY(first.box->isVisible() && first.box->isEnabled() && first.box->text().isEmpty());
+    QCOMPARE(form->focusWidget(), first.box);
+}
+
+// Checks a partial answer: the missing boxes count 0.
+void checkPartialAnswer(y5fract4* form, bool byTimer4)
+{
+    const Step first = steps(form).first();
+    type(first.box, QString::number(first.number));
+    const int right = counter;
+    byTimer4 ? form->Timer4_Timer() : form->cmdcheck_Click();
+    QCOMPARE(form->Label2->text(), QStringLiteral("Incorrect! ") + form->answertext());
+    QVERIFY(form->Label2->isVisible() && !form->Label1->isVisible());
+    QVERIFY(form->Timer3->isEnabled() && !form->Timer1->isEnabled());
+    QCOMPARE(form->Timer1->interval(), byTimer4 ? y5fract4::kTimer1QuickMs : y5fract4::kTimer1Ms);
+    QCOMPARE(counter, challenge > 0 ? 0 : right);
+    form->Timer3_Timer();
+    QVERIFY(form->Label1->isVisible() && !form->Label2->isVisible());
+    QCOMPARE(form->cmdhint->isEnabled(), challenge == 0);
+}
+
+// Ten right answers through the boxes, with a hint and a partial answer
+// between, make the child ready; the certificate arms the Challenge, and
+// twenty right answers in it lead back to the menu and the certificate.
+void TestY5fract4::practiceThenChallenge()
+{
+    y5fract4* form = openScreen();
+    QCOMPARE(activitytitle, form->Label4->text());
+    QVERIFY(form->Option2->isChecked());
+    QVERIFY(form->Picture1->isVisible() && !form->Picture2->isVisible() && !form->Picture3->isVisible());
+    QVERIFY(!form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
+    form->Option1->click();
+    form->cmdstart->click();
+    QVERIFY(!form->Picture1->isVisible());
+    for (int right = 1; right <= 10; ++right) {
+        if (right == 4) {
+            form->cmdhint->click();
+            checkPartialAnswer(form, true);
+        }
+        answer(form);
+        QCOMPARE(counter, right % 10);
+        if (right < 10)
+            form->Timer1_Timer();
+    }
+    QCOMPARE(form->Label80->text(), QStringLiteral("  You are now ready for the Challenge.   20 correct answers on "
+                                                   "the run, with no hints. Click Start to take the Challenge."));
+    QVERIFY(form->Label80->isVisible() && !form->Picture2->isVisible() && !form->Picture3->isVisible());
+    QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y5fract4")}));
+
+    Forms::find<Welldone>()->cmdexit->click();
+    QCOMPARE(challenge, 1);
+    world.answer = MsgBox::Answer::No;
+    form->cmdprint->click();
+    QCOMPARE(world.messages.size(), 1);
+    QCOMPARE(world.messages[0].text, QStringLiteral("Do you really want to print?"));
+    form->cmdstart->click();
+    QVERIFY(!form->Label80->isVisible());
+    for (int right = 1; right < 20; ++right) {
+        answer(form);
+        QCOMPARE(counter, right);
+        form->Timer1_Timer();
+        QVERIFY(!form->cmdhint->isEnabled());
+    }
+    QPointer<y5fract4> leaving(form);
+    answer(form);
+    TestSupport::flushUnloads();
+    QVERIFY(!leaving);
+    QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y5Intro2")}));
+    QCOMPARE(Forms::find<Welldone>()->Label1->text(),
+             QStringLiteral("Congratulations!!! You have risen to the Challenge."));
+}
+
+void TestY5fract4::failedChallengeBeginsAgain()
+{
+    y5fract4* form = openScreen();
+    challenge = 1;
+    form->cmdstart->click();
+    answer(form);
+    form->Timer1_Timer();
+    QCOMPARE(counter, 1);
+    const QString set = picset;
+    checkPartialAnswer(form, false);
+    QCOMPARE(challenge, 2);
+    QCOMPARE(picset, set);
+    auto* retry = Forms::find<Reward>();
+    QVERIFY(retry && retry->isVisible() && retry->Label1->isVisible());
+    form->cmdstart->click();
+    QVERIFY(!form->cmdhint->isEnabled());
+}
+
+QTEST_MAIN(TestY5fract4)
+#include "tst_y5fract4.moc"
