@@ -1,5 +1,7 @@
 #include "screens.h"
 
+#include "activities/ordering/orderhelp.h"
+#include "activities/ordering/y6fract3.h"
 #include "form1.h"
 #include "menus/activitymenu.h"
 #include "menus/comingsoon.h"
@@ -36,4 +38,6 @@ void registerScreens()
     add<y2fracprint1>();
     add<y5fracprint4>();
     add<y6fracprint3>();
+    add<Y6fract3>();
+    add<orderhelp>();
 }
