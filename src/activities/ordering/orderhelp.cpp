@@ -120,7 +120,7 @@ orderhelp::orderhelp()
 
     Image2->setTextFormat(Qt::RichText);
     Image2->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    Image2->setFont(Twips::font(kWords, 12, false));
+    Image2->setFont(Twips::font(kWords, 13, false));
     Twips::place(Image2, kExplanationLeft, kHeadsTop, kInsideWidth - kExplanationLeft - 240, 4380);
 
     Frame2->setObjectName(QStringLiteral("Frame2"));

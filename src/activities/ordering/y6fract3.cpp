@@ -48,18 +48,22 @@ QLabel* wordLabel(QWidget* parent, const QString& name, const QString& text, dou
 }
 
 // The number and answer cards: the same size in both columns, the numbers'
-// card kept to the right of its place, clear of the reward picture.
-QString cardStyle(const char* type, int leftMargin, int rightMargin)
+// card kept to the right of its place, clear of the reward picture. A
+// placed number greys; the answers keep their colours.
+QString cardStyle(const char* type, int leftMargin, int rightMargin, bool greys)
 {
-    return QStringLiteral("%1 { background: rgb(255, 251, 238); color: rgb(0, 58, 140);"
-                          " border: 2px solid rgb(0, 58, 140); border-radius: 8px;"
-                          " margin-left: %2px; margin-right: %3px; }"
-                          "%1:disabled { background: rgb(186, 205, 228); color: rgb(112, 128, 150);"
-                          " border-color: rgb(140, 160, 188); }"
-                          "%1:focus { border: 3px solid rgb(255, 200, 0); }")
-        .arg(QLatin1String(type))
-        .arg(leftMargin)
-        .arg(rightMargin);
+    QString style = QStringLiteral("%1 { background: rgb(255, 251, 238); color: rgb(0, 58, 140);"
+                                   " border: 2px solid rgb(0, 58, 140); border-radius: 8px;"
+                                   " margin-left: %2px; margin-right: %3px; }")
+                        .arg(QLatin1String(type))
+                        .arg(leftMargin)
+                        .arg(rightMargin);
+    if (greys)
+        style += QStringLiteral("%1:disabled { background: rgb(186, 205, 228); color: rgb(112, 128, 150);"
+                                " border-color: rgb(140, 160, 188); }"
+                                "%1:focus { border: 3px solid rgb(255, 200, 0); }")
+                     .arg(QLatin1String(type));
+    return style;
 }
 
 // Layout, in twips. The board's places are inside Frame1.
@@ -76,13 +80,16 @@ constexpr int kPointerHeight = 555;
 constexpr int kArrowLeft = 6960;
 constexpr int kArrowWidth = 960;
 constexpr int kLeftColumn = 120;
+// The message lines stand right of the widest reward picture (4320 twips).
+constexpr int kMessageLeft = 4380;
+constexpr int kMessageWidth = Form::kScreenScaleWidthTwips - kMessageLeft - 60;
 constexpr int kLeftColumnWidth = 3600;
 } // namespace
 
 Y6fract3::Y6fract3()
     : ActivityForm(QStringLiteral("Y6fract3"))
-    , Label1(wordLabel(this, QStringLiteral("Label1"), QString(), 14, Qt::white))
-    , Label2(wordLabel(this, QStringLiteral("Label2"), QStringLiteral("Incorrect!"), 15, kHighlight))
+    , Label1(wordLabel(this, QStringLiteral("Label1"), QString(), 13, Qt::white))
+    , Label2(wordLabel(this, QStringLiteral("Label2"), QStringLiteral("Incorrect!"), 14, kHighlight))
     , Label3(nullptr)
     , Label4(wordLabel(this, QStringLiteral("Label4"), QStringLiteral("Place In Order"), 22, Qt::white))
     , Label6(nullptr)
@@ -113,8 +120,8 @@ Y6fract3::Y6fract3()
     Twips::place(Label4, kLeftColumn, 5520, kLeftColumnWidth, 840);
     Twips::place(Label9, kLeftColumn, 1320, kLeftColumnWidth, 1500);
     Label9->hide();
-    Twips::place(Label1, kNumbersLeft, kFrameTop + 60, 5550, 620);
-    Twips::place(Label2, kNumbersLeft, kFrameTop + 60, 5550, 620);
+    Twips::place(Label1, kMessageLeft, kFrameTop + 30, kMessageWidth, 690);
+    Twips::place(Label2, kMessageLeft, kFrameTop + 30, kMessageWidth, 690);
     Label2->hide();
     Twips::place(Label8, kNumbersLeft, 2400, 5400, 1800);
     Label8->hide();
@@ -164,7 +171,7 @@ void Y6fract3::buildBoard()
         auto* number = new NumberLabel(Frame1, QStringLiteral("Label10(%1)").arg(i));
         number->setText(QStringLiteral("9.999"));
         number->setFont(numberFont);
-        number->setStyleSheet(cardStyle("NumberLabel", kNumberCardInset, 0));
+        number->setStyleSheet(cardStyle("NumberLabel", kNumberCardInset, 0, true));
         Twips::place(number, kNumbersLeft, kSlotTops[i], kCardWidth, kCardHeight);
         connect(number, &NumberLabel::clicked, this, [this, i] { Label10_Click(i); });
         Label10.append(number);
@@ -173,7 +180,7 @@ void Y6fract3::buildBoard()
         slot->setObjectName(QStringLiteral("Label11(%1)").arg(i));
         slot->setFont(numberFont);
         slot->setAlignment(Qt::AlignCenter);
-        slot->setStyleSheet(cardStyle("QLabel", kSlotCardInset, kSlotCardInset));
+        slot->setStyleSheet(cardStyle("QLabel", kSlotCardInset, kSlotCardInset, false));
         Twips::place(slot, kSlotsLeft, kSlotTops[i], kCardWidth, kCardHeight);
         Label11.append(slot);
     }
@@ -204,7 +211,12 @@ void Y6fract3::buildOpeningPanel()
     for (QRadioButton* option : {Option1, Option2}) {
         option->setParent(Frame2);
         option->setFont(Twips::font(kWords, 13, true));
-        option->setStyleSheet(QStringLiteral("color: white;"));
+        QPalette palette = option->palette();
+        palette.setColor(QPalette::WindowText, Qt::white);
+        option->setPalette(palette);
+        // A button fills its background with the Button colour; these fill
+        // with the back colour the load gives them.
+        option->setBackgroundRole(QPalette::Window);
     }
     Twips::place(Option1, 240, 120, 1960, 480);
     Twips::place(Option2, 2260, 120, 1960, 480);
