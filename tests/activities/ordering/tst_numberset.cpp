@@ -22,9 +22,6 @@ private slots:
     void aSetWithRepeatsIsDrawnAgainWhole();
     void orderCheck_data();
     void orderCheck();
-    void revealIsSorted_data();
-    void revealIsSorted();
-    void freeSlotAndUndo();
 };
 
 void TestNumberSet::readsByValue_data()
@@ -39,8 +36,7 @@ void TestNumberSet::readsByValue_data()
     QTest::newRow("trailing zero") << "3.50" << "3.5" << 0 << "3.5";
     QTest::newRow("empty is 0") << "" << "0" << 0 << "0";
     QTest::newRow("whole parts first") << "10.1" << "9.999" << 1 << "10.1";
-    QTest::newRow("a comma ends the number") << "3,47" << "3" << 0 << "3";
-    QTest::newRow("blanks and a tail") << "  4.211x" << "4.211" << 0 << "4.211";
+    QTest::newRow("a comma ends the number") << " 3,47" << "3" << 0 << "3";
     QTest::newRow("below zero") << "-0.5" << "0" << -1 << "-0.5";
     QTest::newRow("ninth place") << "1.000000001" << "1" << 1 << "1.000000001";
 }
@@ -165,41 +161,6 @@ void TestNumberSet::orderCheck()
     QFETCH(Texts, answers);
     QFETCH(bool, right);
     QCOMPARE(NumberSet::inOrder(answers), right);
-}
-
-void TestNumberSet::revealIsSorted_data()
-{
-    QTest::addColumn<Texts>("answers");
-    QTest::addColumn<Texts>("sorted");
-    QTest::newRow("reversed") << Texts{"2.9", "2.85", "2.8", "2.118", "2.1"} << Texts{"2.1", "2.118", "2.8", "2.85", "2.9"};
-    QTest::newRow("smallest last") << Texts{"1.2", "1.3", "1.4", "1.5", "1.11"} << Texts{"1.11", "1.2", "1.3", "1.4", "1.5"};
-    QTest::newRow("right already") << Texts{"5.1", "5.2", "5.3", "5.4", "5.5"} << Texts{"5.1", "5.2", "5.3", "5.4", "5.5"};
-    // A swap writes the smaller value back as its shortest text.
-    QTest::newRow("written back by value") << Texts{"3.5", "3.40", "3.6", "3.7", "3.8"}
-                                           << Texts{"3.4", "3.5", "3.6", "3.7", "3.8"};
-}
-
-void TestNumberSet::revealIsSorted()
-{
-    QFETCH(Texts, answers);
-    QFETCH(Texts, sorted);
-    QCOMPARE(NumberSet::sortedOrder(answers), sorted);
-}
-
-void TestNumberSet::freeSlotAndUndo()
-{
-    // Slots filled from the top: where the next number goes and which slot
-    // Undo clears (none once all five are placed).
-    const Texts full{"1.1", "1.2", "1.3", "1.4", "1.5"};
-    const int undo[] = {0, 0, 1, 2, 3, -1};
-    for (int placed = 0; placed <= NumberSet::kCount; ++placed) {
-        Texts answers;
-        std::copy(full.begin(), full.begin() + placed, answers.begin());
-        QCOMPARE(NumberSet::firstFreeSlot(answers), placed < NumberSet::kCount ? placed : -1);
-        QCOMPARE(NumberSet::undoSlot(answers), undo[placed]);
-    }
-    QCOMPARE(NumberSet::numberWithValue(full, "1.30"), 2);
-    QCOMPARE(NumberSet::numberWithValue(full, ""), -1);
 }
 
 QTEST_GUILESS_MAIN(TestNumberSet)
