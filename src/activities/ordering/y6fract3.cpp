@@ -124,6 +124,10 @@ Y6fract3::Y6fract3()
     Twips::place(Label2, kMessageLeft, kFrameTop + 30, kMessageWidth, 690);
     Label2->hide();
     Twips::place(Label8, kNumbersLeft, 2400, 5400, 1800);
+    // The ready message's place reaches under the reward picture's edge;
+    // its words keep clear of it.
+    constexpr int kClearOfPicture = 24; // pixels
+    Label8->setContentsMargins(kClearOfPicture, 0, kClearOfPicture, 0);
     Label8->hide();
     cmdundo->setObjectName(QStringLiteral("cmdundo"));
     cmdundo->setFont(Twips::font(QStringLiteral("Arial"), 11, true));
@@ -359,6 +363,7 @@ void Y6fract3::cmdstart_Click()
     if (challenge == 0)
         cmdhint->setEnabled(true);
     Frame1->show();
+    Shape1->show();
     counter = 0;
     Label9->show();
     Timer1->setEnabled(true);
@@ -407,6 +412,7 @@ void Y6fract3::endOfRun()
         Label11[i]->hide();
     }
     cmdundo->hide();
+    Shape1->hide();
     showPointers(false);
     Label2->clear();
     Label8->show();
