@@ -2,6 +2,8 @@
 
 #include "activities/halves/y2fractions.h"
 #include "activities/mixed/y5fract4.h"
+#include "activities/ordering/orderhelp.h"
+#include "activities/ordering/y6fract3.h"
 #include "form1.h"
 #include "menus/activitymenu.h"
 #include "menus/comingsoon.h"
@@ -40,4 +42,6 @@ void registerScreens()
     add<y6fracprint3>();
     add<Y2fractions>();
     add<y5fract4>();
+    add<Y6fract3>();
+    add<orderhelp>();
 }

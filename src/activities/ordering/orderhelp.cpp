@@ -1,0 +1,153 @@
+#include "orderhelp.h"
+
+#include "boardlabels.h"
+#include "placevalue.h"
+#include "runtime/forms.h"
+#include "runtime/twips.h"
+#include "shell/module1.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <algorithm>
+
+// The last example is 4.211 while the explanation calls the biggest 4.41:
+// both are the screen's words and stay as they are.
+const QStringList orderhelp::kExamples = {QStringLiteral("3.4 7 2"), QStringLiteral("3.4 8 2"),
+                                          QStringLiteral("3.4 9"), QStringLiteral("3.5 1 6"),
+                                          QStringLiteral("4.2 1 1")};
+
+const std::vector<orderhelp::Line> orderhelp::kExplanation = {
+    {"Reading from the left :", {}},
+    {"3.472 is less than 3.482", {3, 22}},
+    {"since the 7 is less than the 8", {10, 29}},
+    {"3.482 is less than 3.49", {3, 22}},
+    {"since the 8 is less than the 9", {10, 29}},
+    {"3.49 is less than 3.516", {2, 20}},
+    {"since the 4 is less than the 5", {10, 29}},
+    {"4.41 is the biggest", {0}},
+    {"since 4 units is bigger than 3 units", {6, 29}},
+};
+
+namespace {
+const QString kWords = QStringLiteral("Times New Roman");
+const QColor kMarked{255, 224, 80};
+
+// Layout, in twips inside the window.
+constexpr int kBarHeight = 780;
+constexpr int kColumnsLeft = 720;
+constexpr int kColumnsWidth = 3840;
+constexpr int kHeadsTop = 1560;
+constexpr int kHeadsHeight = 900;
+constexpr int kFirstExampleTop = 2580;
+constexpr int kExamplePitch = 640;
+constexpr int kExampleHeight = 600;
+constexpr int kExplanationLeft = 4860;
+
+QLabel* wordLabel(QWidget* parent, const QString& name, const QString& text, double points, const QColor& ink)
+{
+    auto* label = new QLabel(text, parent);
+    label->setObjectName(name);
+    label->setFont(Twips::font(kWords, points, true));
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignCenter);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, ink);
+    label->setPalette(palette);
+    return label;
+}
+
+// The explanation as rich text: a gap before each comparison, and the
+// compared digits bold, larger and coloured.
+QString explanationHtml()
+{
+    QString html;
+    for (std::size_t n = 0; n < orderhelp::kExplanation.size(); ++n) {
+        const orderhelp::Line& line = orderhelp::kExplanation[n];
+        const QString text = QString::fromLatin1(line.text);
+        const bool opensPair = n > 0 && n % 2 == 1;
+        html += QStringLiteral("<p style=\"margin-top:%1px; margin-bottom:0px;\">").arg(opensPair ? 10 : 0);
+        for (int i = 0; i < text.size(); ++i) {
+            const QString c = text.mid(i, 1).toHtmlEscaped();
+            if (std::find(line.compared.begin(), line.compared.end(), i) != line.compared.end())
+                html += QStringLiteral("<span style=\"color:%1; font-weight:bold; font-size:large;\">%2</span>")
+                            .arg(kMarked.name(), c);
+            else
+                html += c;
+        }
+        html += QStringLiteral("</p>");
+    }
+    return html;
+}
+} // namespace
+
+orderhelp::orderhelp()
+    : Form(QStringLiteral("orderhelp"))
+    , Frame1(new QFrame(this))
+    , Label1(wordLabel(Frame1, QStringLiteral("Label1"), QStringLiteral("Happy to help"), 22, Module1::kPanelInk))
+    , Label2(wordLabel(this, QStringLiteral("Label2"),
+                       QStringLiteral("The following decimals are in order of size starting with the smallest:"), 14,
+                       Qt::white))
+    , Image1(new PlaceValueHeads(this, QStringLiteral("Image1")))
+    , Image2(wordLabel(this, QStringLiteral("Image2"), explanationHtml(), 12, Qt::white))
+    , Image3(new ArrowLabel(this, QStringLiteral("Image3"), ArrowLabel::Direction::Down, kMarked))
+    , Frame2(new QFrame(this))
+    , cmdexit(new QPushButton(QStringLiteral("Exit"), Frame2))
+{
+    setWindowTitle(QStringLiteral("Year 6 "));
+    setDesignSize(kInsideWidth + kBorderWidthTwips, kInsideHeight + kBorderHeightTwips);
+    // The activity waits behind until the child leaves.
+    setWindowModality(Qt::ApplicationModal);
+
+    Frame1->setObjectName(QStringLiteral("Frame1"));
+    setControlBackColour(Frame1, Module1::kPanelPaper);
+    Twips::place(Frame1, 0, 0, kInsideWidth, kBarHeight);
+    Twips::place(Label1, 0, 0, kInsideWidth, kBarHeight);
+    Twips::place(Label2, 360, 900, kInsideWidth - 720, 540);
+
+    Image1->setFont(Twips::font(kWords, 12, true));
+    Twips::place(Image1, kColumnsLeft, kHeadsTop, kColumnsWidth, kHeadsHeight);
+    for (int i = 0; i < kExamples.size(); ++i) {
+        auto* row = new PlaceValueRow(this, QStringLiteral("Label%1").arg(3 + i), kExamples[i]);
+        row->setFont(Twips::font(kWords, 24, true));
+        QPalette palette = row->palette();
+        palette.setColor(QPalette::WindowText, Qt::white);
+        row->setPalette(palette);
+        Twips::place(row, kColumnsLeft, kFirstExampleTop + i * kExamplePitch, kColumnsWidth, kExampleHeight);
+        examples.append(row);
+    }
+    Twips::place(Image3, 180, kFirstExampleTop + 60, 420, 4 * kExamplePitch + kExampleHeight - 120);
+
+    Image2->setTextFormat(Qt::RichText);
+    Image2->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    Image2->setFont(Twips::font(kWords, 13, false));
+    Twips::place(Image2, kExplanationLeft, kHeadsTop, kInsideWidth - kExplanationLeft - 240, 4380);
+
+    Frame2->setObjectName(QStringLiteral("Frame2"));
+    setControlBackColour(Frame2, Module1::kPanelPaper);
+    Twips::place(Frame2, 0, kInsideHeight - kBarHeight, kInsideWidth, kBarHeight);
+    cmdexit->setObjectName(QStringLiteral("cmdexit"));
+    cmdexit->setFont(Twips::font(QStringLiteral("Arial"), 11, true));
+    cmdexit->setIconSize(QSize(28, 28));
+    cmdexit->setToolTip(QStringLiteral("Goodbye"));
+    Twips::place(cmdexit, kInsideWidth - 1455 - 240, 75, 1455, kBarHeight - 150);
+
+    connect(cmdexit, &QPushButton::clicked, this, &orderhelp::cmdexit_Click);
+}
+
+void orderhelp::Form_Load()
+{
+    setBackColour(Module1::kActivityBack);
+    Module1::centreform(*this);
+    setButtonPicture(cmdexit, QStringLiteral("ico\\door2.ico"));
+}
+
+void orderhelp::cmdexit_Click()
+{
+    Forms::unload(this);
+}
+
+void orderhelp::closeBoxPressed()
+{
+    cmdexit_Click();
+}

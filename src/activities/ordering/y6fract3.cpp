@@ -1,0 +1,520 @@
+#include "y6fract3.h"
+
+#include "boardlabels.h"
+#include "decimalvalue.h"
+#include "rewards/grey.h"
+#include "runtime/formtimer.h"
+#include "runtime/forms.h"
+#include "runtime/picturebox.h"
+#include "runtime/random.h"
+#include "runtime/twips.h"
+#include "shell/module1.h"
+#include "worksheets/printforms.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+using namespace Module1;
+
+const QString Y6fract3::kStartInstruction =
+    QStringLiteral("Click the numbers, in order, starting with the smallest....");
+const QString Y6fract3::kRightOrder = QStringLiteral(" The numbers are in the correct order");
+const QString Y6fract3::kWrongOrder = QStringLiteral("Unlucky! The correct order is:");
+
+namespace {
+constexpr int kFewerThanVisits = 4;
+constexpr int kVisitsAfterGreeting = 3;
+
+// Key codes that keyfilter knows.
+constexpr int kTab = 9;
+constexpr int kEnter = 13;
+constexpr int kBackspace = 8;
+
+const QString kWords = QStringLiteral("Times New Roman");
+const QColor kHighlight{255, 224, 80};
+
+QLabel* wordLabel(QWidget* parent, const QString& name, const QString& text, double points, const QColor& ink)
+{
+    auto* label = new QLabel(text, parent);
+    label->setObjectName(name);
+    label->setFont(Twips::font(kWords, points, true));
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignCenter);
+    label->setStyleSheet(QStringLiteral("color: %1;").arg(ink.name()));
+    return label;
+}
+
+// The number and answer cards: the same size in both columns, the numbers'
+// card kept to the right of its place, clear of the reward picture. A
+// placed number greys; the answers keep their colours.
+QString cardStyle(const char* type, int leftMargin, int rightMargin, bool greys)
+{
+    QString style = QStringLiteral("%1 { background: rgb(255, 251, 238); color: rgb(0, 58, 140);"
+                                   " border: 2px solid rgb(0, 58, 140); border-radius: 8px;"
+                                   " margin-left: %2px; margin-right: %3px; }")
+                        .arg(QLatin1String(type))
+                        .arg(leftMargin)
+                        .arg(rightMargin);
+    if (greys)
+        style += QStringLiteral("%1:disabled { background: rgb(186, 205, 228); color: rgb(112, 128, 150);"
+                                " border-color: rgb(140, 160, 188); }"
+                                "%1:focus { border: 3px solid rgb(255, 200, 0); }")
+                     .arg(QLatin1String(type));
+    return style;
+}
+
+// Layout, in twips. The board's places are inside Frame1.
+constexpr int kFrameTop = 1140;
+constexpr int kSlotTops[NumberSet::kCount] = {720, 1530, 2340, 3150, 3960};
+constexpr int kCardWidth = 1575;
+constexpr int kCardHeight = 795;
+constexpr int kNumbersLeft = 3885;
+constexpr int kSlotsLeft = 7860;
+constexpr int kNumberCardInset = 28; // pixels
+constexpr int kSlotCardInset = 14;   // pixels
+constexpr int kPointerWidth = 1305;
+constexpr int kPointerHeight = 555;
+constexpr int kArrowLeft = 6960;
+constexpr int kArrowWidth = 960;
+constexpr int kLeftColumn = 120;
+// The message lines stand right of the widest reward picture (4320 twips).
+constexpr int kMessageLeft = 4380;
+constexpr int kMessageWidth = Form::kScreenScaleWidthTwips - kMessageLeft - 60;
+constexpr int kLeftColumnWidth = 3600;
+} // namespace
+
+Y6fract3::Y6fract3()
+    : ActivityForm(QStringLiteral("Y6fract3"))
+    , Label1(wordLabel(this, QStringLiteral("Label1"), QString(), 13, Qt::white))
+    , Label2(wordLabel(this, QStringLiteral("Label2"), QStringLiteral("Incorrect!"), 14, kHighlight))
+    , Label3(nullptr)
+    , Label4(wordLabel(this, QStringLiteral("Label4"), QStringLiteral("Place In Order"), 22, Qt::white))
+    , Label6(nullptr)
+    , Label8(wordLabel(this, QStringLiteral("Label8"), QStringLiteral("Click Start to have another go... or click Exit"),
+                       16, Qt::white))
+    , Label9(wordLabel(this, QStringLiteral("Label9"), QStringLiteral("Click each number starting with the smallest."),
+                       14, kHighlight))
+    , cmdundo(new QPushButton(QStringLiteral("Undo"), this))
+    , Frame1(new QFrame(this))
+    , Frame2(nullptr)
+    , Shape1(nullptr)
+    , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
+    , Timer2(addTimer(QStringLiteral("Timer2"), kTimer2Ms))
+    , Timer3(addTimer(QStringLiteral("Timer3"), kTimer3Ms))
+    , Timer4(addTimer(QStringLiteral("Timer4"), kTimer4Ms))
+    , Timer5(addTimer(QStringLiteral("Timer5"), kTimer5Ms))
+    , Timer6(addTimer(QStringLiteral("Timer6"), kTimer6Ms))
+    , Timer7(addTimer(QStringLiteral("Timer7"), kTimer7Ms))
+{
+    setWindowTitle(QStringLiteral("Year 6 "));
+    Image2->setObjectName(QStringLiteral("Image2(0)"));
+    buildBoard();
+    buildOpeningPanel();
+
+    // Around the board: the title under the reward picture, the instruction
+    // of a new run above where the picture will stand, the message lines
+    // over the two columns.
+    Twips::place(Label4, kLeftColumn, 5520, kLeftColumnWidth, 840);
+    Twips::place(Label9, kLeftColumn, 1320, kLeftColumnWidth, 1500);
+    Label9->hide();
+    Twips::place(Label1, kMessageLeft, kFrameTop + 30, kMessageWidth, 690);
+    Twips::place(Label2, kMessageLeft, kFrameTop + 30, kMessageWidth, 690);
+    Label2->hide();
+    Twips::place(Label8, kNumbersLeft, 2400, 5400, 1800);
+    // The ready message's place reaches under the reward picture's edge;
+    // its words keep clear of it.
+    constexpr int kClearOfPicture = 24; // pixels
+    Label8->setContentsMargins(kClearOfPicture, 0, kClearOfPicture, 0);
+    Label8->hide();
+    cmdundo->setObjectName(QStringLiteral("cmdundo"));
+    cmdundo->setFont(Twips::font(QStringLiteral("Arial"), 11, true));
+    Twips::place(cmdundo, kNumbersLeft + Twips::fromPixels(kNumberCardInset), kFrameTop + 4845,
+                 kCardWidth - Twips::fromPixels(kNumberCardInset), 450);
+    cmdundo->hide();
+    // The reward picture stands in the left column, over the board's frame.
+    Twips::move(Image2, 0, 1200);
+    Image2->raise();
+    // Nothing is checked before Start: the check follows the fifth click.
+    cmdcheck->setEnabled(false);
+
+    connect(cmdstart, &QPushButton::clicked, this, &Y6fract3::cmdstart_Click);
+    connect(cmdcheck, &QPushButton::clicked, this, &Y6fract3::cmdcheck_Click);
+    connect(cmdhint, &QPushButton::clicked, this, &Y6fract3::cmdhint_Click);
+    connect(cmdprint, &QPushButton::clicked, this, &Y6fract3::cmdprint_Click);
+    connect(cmdexit, &QPushButton::clicked, this, &Y6fract3::cmdexit_Click);
+    connect(cmdundo, &QPushButton::clicked, this, &Y6fract3::cmdundo_Click);
+    connect(Timer1, &QTimer::timeout, this, &Y6fract3::Timer1_Timer);
+    connect(Timer2, &QTimer::timeout, this, &Y6fract3::Timer2_Timer);
+    connect(Timer3, &QTimer::timeout, this, &Y6fract3::Timer3_Timer);
+    connect(Timer4, &QTimer::timeout, this, &Y6fract3::Timer4_Timer);
+    connect(Timer5, &QTimer::timeout, this, &Y6fract3::Timer5_Timer);
+    connect(Timer6, &QTimer::timeout, this, &Y6fract3::Timer6_Timer);
+    connect(Timer7, &QTimer::timeout, this, &Y6fract3::Timer7_Timer);
+    // The one timer that runs from the start.
+    Timer1->setEnabled(true);
+}
+
+void Y6fract3::buildBoard()
+{
+    Frame1->setObjectName(QStringLiteral("Frame1"));
+    Twips::place(Frame1, 0, kFrameTop, Form::kScreenScaleWidthTwips, 5370);
+    Frame1->hide();
+
+    Shape1 = new QFrame(Frame1);
+    Shape1->setObjectName(QStringLiteral("Shape1"));
+    Shape1->setStyleSheet(QStringLiteral("#Shape1 { border: 2px solid white; border-radius: 12px; }"));
+    Twips::place(Shape1, kSlotsLeft + Twips::fromPixels(kSlotCardInset) - 90, kSlotTops[0] - 60,
+                 kCardWidth - 2 * Twips::fromPixels(kSlotCardInset) + 180,
+                 kSlotTops[NumberSet::kCount - 1] + kCardHeight - kSlotTops[0] + 120);
+
+    const QFont numberFont = Twips::font(kWords, 20, true);
+    for (int i = 0; i < NumberSet::kCount; ++i) {
+        auto* number = new NumberLabel(Frame1, QStringLiteral("Label10(%1)").arg(i));
+        number->setText(QStringLiteral("9.999"));
+        number->setFont(numberFont);
+        number->setStyleSheet(cardStyle("NumberLabel", kNumberCardInset, 0, true));
+        Twips::place(number, kNumbersLeft, kSlotTops[i], kCardWidth, kCardHeight);
+        connect(number, &NumberLabel::clicked, this, [this, i] { Label10_Click(i); });
+        Label10.append(number);
+
+        auto* slot = new QLabel(Frame1);
+        slot->setObjectName(QStringLiteral("Label11(%1)").arg(i));
+        slot->setFont(numberFont);
+        slot->setAlignment(Qt::AlignCenter);
+        slot->setStyleSheet(cardStyle("QLabel", kSlotCardInset, kSlotCardInset, false));
+        Twips::place(slot, kSlotsLeft, kSlotTops[i], kCardWidth, kCardHeight);
+        Label11.append(slot);
+    }
+
+    Label12[5] = wordLabel(Frame1, QStringLiteral("Label12(5)"), QStringLiteral("Smallest"), 14, kHighlight);
+    Twips::place(Label12[5], 5595, 840, kPointerWidth, kPointerHeight);
+    Label12[0] = wordLabel(Frame1, QStringLiteral("Label12(0)"), QStringLiteral("Biggest"), 14, kHighlight);
+    Twips::place(Label12[0], 5580, 4080, kPointerWidth, kPointerHeight);
+    Label5 = new ArrowLabel(Frame1, QStringLiteral("Label5"), ArrowLabel::Direction::Right, kHighlight);
+    Twips::place(Label5, kArrowLeft, 840, kArrowWidth, kPointerHeight);
+    Label13 = new ArrowLabel(Frame1, QStringLiteral("Label13"), ArrowLabel::Direction::Right, kHighlight);
+    Twips::place(Label13, kArrowLeft, 4080, kArrowWidth, kPointerHeight);
+}
+
+void Y6fract3::buildOpeningPanel()
+{
+    constexpr int kPanelWidth = 6880;
+    Twips::place(Picture1, 1300, 1320, kPanelWidth, 3960);
+    Label3 = wordLabel(Picture1, QStringLiteral("Label3"), QStringLiteral("Good Luck."), 26, Qt::white);
+    Twips::place(Label3, 0, 240, kPanelWidth, 780);
+    Label6 = wordLabel(Picture1, QStringLiteral("Label6"),
+                       QStringLiteral("Aim to get 10 or 20 questions correct to gain a certificate."), 14, Qt::white);
+    Twips::place(Label6, 480, 1140, kPanelWidth - 960, 1260);
+
+    Frame2 = new QFrame(Picture1);
+    Frame2->setObjectName(QStringLiteral("Frame2"));
+    Twips::place(Frame2, 1240, 2640, 4400, 720);
+    for (QRadioButton* option : {Option1, Option2}) {
+        option->setParent(Frame2);
+        option->setFont(Twips::font(kWords, 13, true));
+        QPalette palette = option->palette();
+        palette.setColor(QPalette::WindowText, Qt::white);
+        option->setPalette(palette);
+        // A button fills its background with the Button colour; these fill
+        // with the back colour the load gives them.
+        option->setBackgroundRole(QPalette::Window);
+    }
+    Twips::place(Option1, 240, 120, 1960, 480);
+    Twips::place(Option2, 2260, 120, 1960, 480);
+}
+
+NumberSet::Texts Y6fract3::numbers() const
+{
+    NumberSet::Texts texts;
+    for (int i = 0; i < NumberSet::kCount; ++i)
+        texts[i] = Label10[i]->text();
+    return texts;
+}
+
+NumberSet::Texts Y6fract3::answers() const
+{
+    NumberSet::Texts texts;
+    for (int i = 0; i < NumberSet::kCount; ++i)
+        texts[i] = Label11[i]->text();
+    return texts;
+}
+
+void Y6fract3::Form_Load()
+{
+    // The design captions and pictures first; setupform then names the
+    // print button as its tool tip does.
+    loadButtonPictures();
+    setupform(*this);
+    showQuestionsChoice();
+    for (QWidget* control : {static_cast<QWidget*>(Option1), static_cast<QWidget*>(Option2),
+                             static_cast<QWidget*>(Label8)})
+        setControlBackColour(control, kActivityBack);
+    Picture1->setBackColour(kActivityBack);
+    Picture1->show();
+    counter = 0;
+    activitytitle = Label4->text();
+    visits += 1;
+    if (visits < kFewerThanVisits) {
+        Forms::load<Grey>()->Timer2->setEnabled(true);
+        visits = kVisitsAfterGreeting;
+    }
+}
+
+void Y6fract3::showPointers(bool on)
+{
+    Label13->setVisible(on);
+    Label12[5]->setVisible(on);
+    Label12[0]->setVisible(on);
+    Label5->setVisible(on);
+}
+
+void Y6fract3::newnumbers()
+{
+    Timer6->setEnabled(true);
+    Timer7->setEnabled(true);
+    if (challenge == 0)
+        cmdhint->setEnabled(true);
+    Label2->hide();
+    showPointers(true);
+    Random::Randomize();
+    numberkind = NumberSet::kSharedWholePart;
+    if (const auto question = NumberSet::newnumbers(numberkind)) {
+        wholepart = question->wholepart;
+        for (int i = 0; i < NumberSet::kCount; ++i)
+            Label10[i]->setText(question->numbers[i]);
+    }
+    for (int i = 0; i < NumberSet::kCount; ++i) {
+        Label10[i]->setEnabled(true);
+        Label11[i]->show();
+        order[i] = 0;
+        Label11[i]->clear();
+    }
+}
+
+int Y6fract3::check_order()
+{
+    return NumberSet::hasRepeats(numbers()) ? 1 : 0;
+}
+
+void Y6fract3::Label10_Click(int Index)
+{
+    if (!Label2->isHidden())
+        return;
+    showPointers(false);
+    const int slot = NumberSet::firstFreeSlot(answers());
+    if (slot >= 0) {
+        Label11[slot]->setText(Label10[Index]->text());
+        order[slot] = Index;
+        Label10[Index]->setEnabled(false);
+    }
+    if (!valueOf(Label11[NumberSet::kCount - 1]->text()).isZero()) {
+        Label12[5]->show();
+        Label12[0]->show();
+        cmdcheck_Click();
+    }
+}
+
+void Y6fract3::cmdundo_Click()
+{
+    const int slot = NumberSet::undoSlot(answers());
+    if (slot < 0)
+        return;
+    const int number = NumberSet::numberWithValue(numbers(), Label11[slot]->text());
+    if (number >= 0)
+        Label10[number]->setEnabled(true);
+    Label11[slot]->clear();
+}
+
+void Y6fract3::resetform()
+{
+    Image2->hide();
+    Label8->hide();
+}
+
+void Y6fract3::keyfilter(int& KeyAscii)
+{
+    if ((KeyAscii == kTab || KeyAscii == kEnter) && Label2->isHidden()) {
+        if (keyentry && !keyentry->text().isEmpty()) {
+            keyentry->setReadOnly(true);
+            cmdcheck_Click();
+        }
+    }
+    const bool letter = (KeyAscii >= 'A' && KeyAscii <= 'Z') || (KeyAscii >= 'a' && KeyAscii <= 'z');
+    const bool wanted = KeyAscii == '-' || KeyAscii == kBackspace || KeyAscii == '.'
+        || (KeyAscii >= '0' && KeyAscii <= '9');
+    if (letter || !wanted)
+        KeyAscii = 0;
+}
+
+void Y6fract3::cmdstart_Click()
+{
+    Picture1->hide();
+    resetform();
+    for (NumberLabel* number : Label10)
+        number->setEnabled(true);
+    Label1->setText(kStartInstruction);
+    cmdcheck->setEnabled(false);
+    cmdprint->setEnabled(true);
+    cmdexit->setEnabled(true);
+    cmdundo->show();
+    if (challenge == 0)
+        cmdhint->setEnabled(true);
+    Frame1->show();
+    Shape1->show();
+    counter = 0;
+    Label9->show();
+    Timer1->setEnabled(true);
+    Timer2->setEnabled(false);
+    Timer4->setEnabled(false);
+    for (NumberLabel* number : Label10)
+        number->show();
+    newnumbers();
+    pickpicture(*this);
+}
+
+void Y6fract3::cmdcheck_Click()
+{
+    Label9->hide();
+    cmdhint->setEnabled(false);
+    if (NumberSet::inOrder(answers())) {
+        counter += 1;
+        nextpicture(*this);
+        if (counter < questions) {
+            praise();
+            Label2->setText(praisetext + kRightOrder);
+            Label1->hide();
+            Label2->show();
+            Timer3->setEnabled(true);
+        } else {
+            endOfRun();
+        }
+        return;
+    }
+    if (challenge > 0) {
+        challenge = 2;
+        pickpicture(*this);
+        Timer5->setEnabled(true);
+    }
+    Label2->setText(kWrongOrder);
+    Label1->hide();
+    Label2->show();
+    showorder();
+}
+
+void Y6fract3::endOfRun()
+{
+    cmdcheck->setEnabled(false);
+    for (int i = 0; i < NumberSet::kCount; ++i) {
+        Label10[i]->hide();
+        Label11[i]->hide();
+    }
+    cmdundo->hide();
+    Shape1->hide();
+    showPointers(false);
+    Label2->clear();
+    Label8->show();
+    counter = 0;
+    Label1->clear();
+    if (challenge > 0)
+        cmdexit_Click();
+    else
+        showReadyMessage(Label8, QString::number(streak));
+    showwelldone(QStringLiteral("How Many?"));
+}
+
+void Y6fract3::showorder()
+{
+    for (QLabel* slot : Label11)
+        slot->hide();
+    const NumberSet::Texts sorted = NumberSet::sortedOrder(answers());
+    for (int i = 0; i < NumberSet::kCount; ++i)
+        Label11[i]->setText(sorted[i]);
+    Timer4->setEnabled(true);
+}
+
+void Y6fract3::cmdhint_Click()
+{
+    // The help screen is application-modal: this screen waits behind it.
+    Forms::show(QStringLiteral("orderhelp"));
+}
+
+QPushButton* Y6fract3::focusAfterPrint() const
+{
+    // Along the row from Hint: Hint, Exit, then round to Print, Start, Check.
+    for (QPushButton* button : {cmdhint, cmdexit, cmdprint, cmdstart, cmdcheck})
+        if (button->isEnabled())
+            return button;
+    return cmdhint;
+}
+
+void Y6fract3::cmdprint_Click()
+{
+    Worksheets::askAndPrint(QStringLiteral("y6fracprint3"));
+    focusAfterPrint()->setFocus();
+}
+
+void Y6fract3::cmdexit_Click()
+{
+    Forms::showAndUnload(QStringLiteral("y6Intro"), this);
+}
+
+void Y6fract3::nextQuestion()
+{
+    Label2->hide();
+    newnumbers();
+    if (challenge == 0)
+        cmdhint->setEnabled(true);
+    setEnabled(true);
+}
+
+void Y6fract3::Timer1_Timer()
+{
+    Label9->hide();
+    Timer1->setEnabled(false);
+}
+
+void Y6fract3::Timer2_Timer()
+{
+    Timer2->setEnabled(false);
+    nextQuestion();
+}
+
+void Y6fract3::Timer3_Timer()
+{
+    Timer3->setEnabled(false);
+    nextQuestion();
+}
+
+void Y6fract3::Timer4_Timer()
+{
+    for (QLabel* slot : Label11)
+        if (slot->isHidden()) {
+            slot->show();
+            break;
+        }
+    if (!Label11[NumberSet::kCount - 1]->isHidden()) {
+        Timer2->setEnabled(true);
+        Timer4->setEnabled(false);
+    }
+}
+
+void Y6fract3::Timer5_Timer()
+{
+    showreward();
+    Timer5->setEnabled(false);
+}
+
+void Y6fract3::Timer6_Timer()
+{
+    Label1->show();
+    Timer6->setEnabled(false);
+}
+
+void Y6fract3::Timer7_Timer()
+{
+    Label1->show();
+    Timer7->setEnabled(false);
+}

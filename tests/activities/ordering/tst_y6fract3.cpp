@@ -1,0 +1,363 @@
+#include "activities/ordering/boardlabels.h"
+#include "activities/ordering/orderhelp.h"
+#include "activities/ordering/y6fract3.h"
+#include "rewards/grey.h"
+#include "rewards/reward.h"
+#include "rewards/welldone.h"
+#include "runtime/formtimer.h"
+#include "runtime/picturebox.h"
+#include "testsupport.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
+#include <algorithm>
+
+using namespace Module1;
+
+namespace {
+void click(QWidget* w) { QTest::mouseClick(w, Qt::LeftButton); }
+
+QStringList captions(const QVector<QLabel*>& labels)
+{
+    QStringList texts;
+    for (QLabel* l : labels)
+        texts << l->text();
+    return texts;
+}
+
+int shown(const QVector<QLabel*>& labels)
+{
+    return int(std::count_if(labels.begin(), labels.end(), [](QLabel* l) { return !l->isHidden(); }));
+}
+} // namespace
+
+class TestY6fract3 : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void clicksPlaceAndGrey();
+    void undo_data();
+    void undo();
+    void check_data();
+    void check();
+    void wrongOrderIsRevealedOneByOne();
+    void failedChallengeShowsRetryWhileRevealing();
+    void practiceThenChallenge();
+    void helpLeavesTheRunAlone();
+    void printThenFocus();
+    void keyfilterKeepsNumberKeys();
+
+private:
+    void start(int challengeState = 0);
+    QVector<int> smallestFirst() const;
+    void answer(bool right);
+    TestSupport::World world;
+    Y6fract3* form = nullptr;
+};
+
+void TestY6fract3::init()
+{
+    world.fresh(7);
+    yearlabel = QStringLiteral("Year 6");
+    streak = 20;
+}
+
+void TestY6fract3::start(int challengeState)
+{
+    form = Forms::show<Y6fract3>();
+    challenge = challengeState;
+    // A Challenge follows a practice run, whose last check turned Hint off.
+    if (challengeState > 0)
+        form->cmdhint->setEnabled(false);
+    form->cmdstart->click();
+}
+
+// The numbers' indexes, smallest first. One whole part and no digit 0 make
+// the texts' own order the order of their values.
+QVector<int> TestY6fract3::smallestFirst() const
+{
+    QVector<int> order{0, 1, 2, 3, 4};
+    std::sort(order.begin(), order.end(), [this](int a, int b) { return form->Label10[a]->text() < form->Label10[b]->text(); });
+    return order;
+}
+
+// Places all five numbers, smallest first, or with the smallest last.
+void TestY6fract3::answer(bool right)
+{
+    QVector<int> order = smallestFirst();
+    if (!right)
+        std::rotate(order.begin(), order.begin() + 1, order.end());
+    for (int i : order)
+        click(form->Label10[i]);
+}
+
+void TestY6fract3::clicksPlaceAndGrey()
+{
+    visits = 0;
+    start();
+    QCOMPARE(activitytitle, QStringLiteral("Place In Order"));
+    QVERIFY(visits == 3 && Forms::find<Grey>()->Timer2->isEnabled());
+    QVERIFY(form->Picture1->isHidden() && !form->Frame1->isHidden() && !form->Label9->isHidden());
+    QVERIFY(!form->cmdcheck->isEnabled() && !form->Label12.value(5)->isHidden() && !form->Label5->isHidden());
+
+    click(form->Label10[3]);
+    QCOMPARE(form->Label11[0]->text(), form->Label10[3]->text());
+    QCOMPARE(form->order[0], 3);
+    QVERIFY(!form->Label10[3]->isEnabled() && !form->Label10[3]->isHidden());
+    QVERIFY(form->Label12.value(5)->isHidden() && form->Label12.value(0)->isHidden());
+    QVERIFY(form->Label5->isHidden() && form->Label13->isHidden());
+    click(form->Label10[3]); // greyed: no second click
+    QCOMPARE(form->Label11[1]->text(), QString());
+    // While the feedback line shows, the board takes no click at all.
+    form->Label2->show();
+    form->Label10_Click(1);
+    QVERIFY(form->Label11[1]->text().isEmpty() && form->Label10[1]->isEnabled());
+    form->Label2->hide();
+    QTest::keyClick(form->Label10[1], Qt::Key_Space); // the keyboard reaches the numbers too
+    QCOMPARE(captions(form->Label11).mid(0, 2), QStringList({form->Label10[3]->text(), form->Label10[1]->text()}));
+}
+
+void TestY6fract3::undo_data()
+{
+    QTest::addColumn<int>("placed");
+    QTest::addColumn<int>("filledAfter");
+    QTest::newRow("none placed") << 0 << 0;
+    QTest::newRow("one placed") << 1 << 0;
+    QTest::newRow("four placed") << 4 << 3;
+    QTest::newRow("five placed") << 5 << 5;
+}
+
+void TestY6fract3::undo()
+{
+    QFETCH(int, placed);
+    QFETCH(int, filledAfter);
+    start();
+    const QVector<int> order = smallestFirst();
+    for (int i = 0; i < placed; ++i)
+        form->Label10_Click(order[i]);
+    const QStringList before = captions(form->Label11);
+    form->cmdundo_Click();
+    for (int i = 0; i < NumberSet::kCount; ++i) {
+        QCOMPARE(form->Label11[i]->text(), i < filledAfter ? before[i] : QString());
+        // Exactly the numbers still placed stay greyed.
+        QCOMPARE(form->Label10[i]->isEnabledTo(form), order.indexOf(i) >= filledAfter);
+    }
+}
+
+void TestY6fract3::check_data()
+{
+    QTest::addColumn<int>("descent"); // swapped neighbours, or -1
+    QTest::newRow("smallest first") << -1;
+    QTest::newRow("descent at the top") << 0;
+    QTest::newRow("descent at the bottom") << 3;
+}
+
+void TestY6fract3::check()
+{
+    QFETCH(int, descent);
+    start();
+    counter = 3;
+    QVector<int> order = smallestFirst();
+    if (descent >= 0)
+        std::swap(order[descent], order[descent + 1]);
+    for (int i = 0; i < 4; ++i)
+        click(form->Label10[order[i]]);
+    QVERIFY(form->Label2->isHidden());
+    click(form->Label10[order[4]]); // the fifth click checks at once
+    QVERIFY(!form->Label2->isHidden() && form->Label1->isHidden() && form->Label9->isHidden());
+    QVERIFY(!form->cmdhint->isEnabled() && !form->cmdcheck->isEnabled());
+    if (descent >= 0) {
+        QCOMPARE(counter, 3); // practice forgives a wrong order
+        QCOMPARE(form->Label2->text(), Y6fract3::kWrongOrder);
+        QVERIFY(form->Timer4->isEnabled() && !form->Timer3->isEnabled() && !form->Timer5->isEnabled());
+        return;
+    }
+    QCOMPARE(counter, 4);
+    QVERIFY(std::any_of(std::begin(kPraise), std::end(kPraise), [this](const char* p) {
+        return form->Label2->text() == QString::fromLatin1(p) + Y6fract3::kRightOrder;
+    }));
+    QVERIFY(form->Timer3->isEnabled() && !form->isEnabled() && Forms::find<Grey>()->Timer1->isEnabled());
+    form->Timer3_Timer();
+    QVERIFY(form->isEnabled() && form->cmdhint->isEnabled() && form->Label2->isHidden());
+    QCOMPARE(captions(form->Label11), QStringList(5, QString()));
+}
+
+void TestY6fract3::wrongOrderIsRevealedOneByOne()
+{
+    start();
+    QStringList right;
+    for (int i : smallestFirst())
+        right << form->Label10[i]->text();
+    answer(false);
+    QCOMPARE(captions(form->Label11), right);
+    for (int tick = 0; tick <= NumberSet::kCount; ++tick) {
+        for (int i = 0; i < NumberSet::kCount; ++i)
+            QCOMPARE(!form->Label11[i]->isHidden(), i < tick);
+        QCOMPARE(form->Timer2->isEnabled(), tick == NumberSet::kCount);
+        click(form->Label10[0]); // ignored while the feedback line shows
+        if (tick < NumberSet::kCount)
+            form->Timer4_Timer();
+    }
+    QVERIFY(!form->Timer4->isEnabled());
+    form->cmdundo_Click(); // all five placed: nothing to take back
+    QCOMPARE(captions(form->Label11), right);
+    form->Timer2_Timer();
+    QVERIFY(form->Label2->isHidden() && form->cmdhint->isEnabled() && form->Label1->isHidden());
+    QCOMPARE(captions(form->Label11), QStringList(5, QString()));
+    QCOMPARE(shown(form->Label11), 5);
+    form->Timer7_Timer();
+    QVERIFY(!form->Label1->isHidden());
+}
+
+void TestY6fract3::failedChallengeShowsRetryWhileRevealing()
+{
+    start(1);
+    answer(true);
+    form->Timer3_Timer();
+    QVERIFY(counter == 1 && !form->cmdhint->isEnabled());
+    const QString picture = picset;
+    answer(false);
+    QVERIFY(challenge == 2 && counter == 0 && picset == picture && form->Image2->isHidden());
+    QVERIFY(form->Timer5->isEnabled() && form->Timer4->isEnabled());
+    form->Timer4_Timer();
+    form->Timer4_Timer();
+    QVERIFY(!Forms::isLoaded(QStringLiteral("Reward")));
+    form->Timer5_Timer(); // 6.5 s after the check
+    auto* reward = Forms::find<Reward>();
+    QVERIFY(reward && reward->isVisible() && !reward->Label1->isHidden());
+    QVERIFY(!form->Timer5->isEnabled() && form->Timer4->isEnabled()); // the reveal goes on
+    for (int i = 0; i < 3; ++i)
+        form->Timer4_Timer();
+    QCOMPARE(shown(form->Label11), 5);
+    form->Timer2_Timer();
+    QVERIFY(!form->cmdhint->isEnabled()); // still the Challenge
+    QCOMPARE(captions(form->Label11), QStringList(5, QString()));
+}
+
+// The whole cycle: a practice run of 10 (every third answer wrong first,
+// which practice forgives), the certificate, then the Challenge from the
+// same screen, as long as the streak, ending at the menu and the certificate.
+void TestY6fract3::practiceThenChallenge()
+{
+    start();
+    form->Option1->click();
+    for (int n = 1; n <= 10; ++n) {
+        if (n % 3 == 0) {
+            answer(false);
+            for (int t = 0; t < NumberSet::kCount; ++t)
+                form->Timer4_Timer();
+            form->Timer2_Timer();
+        }
+        answer(true);
+        if (n < 10) {
+            QCOMPARE(counter, n);
+            form->Timer3_Timer();
+        }
+    }
+    auto* certificate = Forms::find<Welldone>();
+    QVERIFY(certificate && certificate->isVisible() && form->isVisible() && form->isEnabled());
+    QCOMPARE(form->Label8->text(), ActivityForm::readyText(QStringLiteral("20"))); // the streak, not the count
+    QVERIFY(!form->Label8->isHidden() && shown(form->Label11) == 0 && form->cmdundo->isHidden());
+    QVERIFY(form->Label12.value(5)->isHidden() && form->Label5->isHidden() && !form->cmdhint->isEnabled());
+
+    certificate->cmdexit->click();
+    TestSupport::flushUnloads();
+    QVERIFY(challenge == 1 && questions == 20);
+    form->cmdstart->click();
+    QVERIFY(form->Label8->isHidden() && !form->cmdhint->isEnabled());
+    QPointer<Y6fract3> board = form;
+    for (int n = 1; n <= 20; ++n) {
+        answer(true);
+        if (n < 20)
+            form->Timer3_Timer();
+    }
+    TestSupport::flushUnloads();
+    QVERIFY(!board);
+    QCOMPARE(TestSupport::visibleForms(), QStringList({"Welldone", "y6Intro"}));
+}
+
+void TestY6fract3::helpLeavesTheRunAlone()
+{
+    start();
+    answer(true);
+    form->Timer3_Timer();
+    click(form->Label10[2]);
+    const auto snapshot = [this] {
+        QStringList s = captions(form->Label11);
+        for (NumberLabel* n : form->Label10)
+            s << n->text() + (n->isEnabled() ? "+" : "-");
+        for (FormTimer* t : form->findChildren<FormTimer*>())
+            s << t->objectName() + (t->isEnabled() ? "+" : "-");
+        return s << QString::number(counter) << QString::number(challenge) << QString::number(questions) << picset;
+    };
+    const QStringList before = snapshot();
+    form->cmdhint->click();
+    auto* help = Forms::find<orderhelp>();
+    QVERIFY(help && help->isVisible() && help->windowModality() == Qt::ApplicationModal);
+    QCOMPARE(help->Label1->text(), QStringLiteral("Happy to help"));
+    QCOMPARE(help->Label2->text(), QStringLiteral("The following decimals are in order of size starting with the smallest:"));
+    QStringList examples;
+    for (QLabel* l : help->examples)
+        examples << l->objectName() + '=' + l->text();
+    QCOMPARE(examples, QStringList({"Label3=3.4 7 2", "Label4=3.4 8 2", "Label5=3.4 9", "Label6=3.5 1 6", "Label7=4.2 1 1"}));
+    // Each "is less than" line sets off the first digits where its numbers
+    // differ, and the "since" line under it the same digits.
+    for (std::size_t n = 1; n + 1 < help->kExplanation.size(); n += 2) {
+        const QString line = QString::fromLatin1(help->kExplanation[n].text);
+        const QString why = QString::fromLatin1(help->kExplanation[n + 1].text);
+        const std::vector<int>& marks = help->kExplanation[n].compared;
+        for (std::size_t m = 0; m < marks.size(); ++m)
+            QCOMPARE(why[help->kExplanation[n + 1].compared[m]], line[marks[m]]);
+        const QStringList pair = line.split(QStringLiteral(" is less than "));
+        int d = 0;
+        while (pair.size() == 2 && pair[0][d] == pair[1][d])
+            ++d;
+        if (pair.size() == 2)
+            QCOMPARE(marks, (std::vector<int>{d, int(pair[0].size()) + 14 + d}));
+    }
+    QCOMPARE(snapshot(), before);
+    help->cmdexit->click();
+    TestSupport::flushUnloads();
+    QVERIFY(!Forms::isLoaded(QStringLiteral("orderhelp")));
+    QCOMPARE(snapshot(), before);
+}
+
+// After the question, printed or not, the focus goes to Hint, or when Hint
+// is off (the Challenge) to the next button along the row that is on.
+void TestY6fract3::printThenFocus()
+{
+    start();
+    world.answer = MsgBox::Answer::No;
+    for (const char* focus : {"cmdhint", "cmdexit"}) {
+        form->cmdstart->setFocus();
+        form->cmdprint->click();
+        QCOMPARE(world.messages.last().text, QStringLiteral("Do you really want to print?"));
+        QVERIFY(world.messages.last().title == yearlabel && world.messages.last().buttons == MsgBox::Buttons::YesNo);
+        QCOMPARE(form->focusWidget()->objectName(), QString::fromLatin1(focus));
+        form->cmdhint->setEnabled(false);
+    }
+}
+
+void TestY6fract3::keyfilterKeepsNumberKeys()
+{
+    start();
+    for (int key : {int('0'), int('9'), int('.'), int('-'), 8, int('a'), int('Z'), int(','), int(' '), 9, 13}) {
+        int k = key;
+        form->keyfilter(k);
+        QCOMPARE(k, QByteArray("09.-\b").contains(char(key)) ? key : 0);
+    }
+    // Enter on a filled entry locks it and checks; the board has no entry.
+    QLineEdit entry(QStringLiteral("3.4"));
+    form->keyentry = &entry;
+    int enter = 13;
+    form->keyfilter(enter);
+    QVERIFY(entry.isReadOnly());
+    QCOMPARE(counter, 1); // the check ran: an empty column is all 0s, in order
+    form->keyentry = nullptr;
+}
+
+QTEST_MAIN(TestY6fract3)
+#include "tst_y6fract3.moc"
