@@ -1,6 +1,7 @@
 #include "activityform.h"
 
 #include "runtime/picturebox.h"
+#include "captionbelowicon.h"
 #include "module1.h"
 #include "runtime/twips.h"
 
@@ -15,6 +16,8 @@ QPushButton* commonButton(QWidget* parent, const char* name)
     button->setObjectName(QString::fromLatin1(name));
     button->resize(Twips::toPixels(ActivityForm::kButtonWidth), Twips::toPixels(ActivityForm::kButtonHeight));
     button->setIconSize(QSize(32, 32));
+    button->setFont(Twips::font(QStringLiteral("Arial"), 8));
+    button->setAutoDefault(true); // Enter presses the button that has the focus
     return button;
 }
 
@@ -22,6 +25,9 @@ QRadioButton* questionsOption(QWidget* parent, const char* name, const char* cap
 {
     auto* option = new QRadioButton(QString::fromLatin1(caption), parent);
     option->setObjectName(QString::fromLatin1(name));
+    // A radio button fills with the Button colour; these take the back
+    // colour their screen gives them.
+    option->setBackgroundRole(QPalette::Window);
     QObject::connect(option, &QRadioButton::clicked, option, [length] { Module1::questions = length; });
     return option;
 }
@@ -49,6 +55,17 @@ ActivityForm::ActivityForm(const QString& name, QWidget* parent)
 {
     Image2->setAutoSize(true);
     Image2->hide();
+    // Each caption under its picture, as the buttons are designed.
+    auto* buttonLook = new CaptionBelowIconStyle(this);
+    for (QPushButton* b : {cmdprint, cmdstart, cmdcheck, cmdhint, cmdexit})
+        b->setStyle(buttonLook);
+    raiseButtons();
+}
+
+void ActivityForm::raiseButtons()
+{
+    for (QPushButton* b : {cmdprint, cmdstart, cmdcheck, cmdhint, cmdexit})
+        b->raise();
 }
 
 void ActivityForm::loadButtonPictures()

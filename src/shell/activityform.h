@@ -30,6 +30,9 @@ public:
     // The buttons' design captions and pictures, and the screen's icon, as
     // every activity loads them.
     void loadButtonPictures();
+    // Puts the button row above everything else: a tall reward picture
+    // reaches up behind it.
+    void raiseButtons();
     // Ticks the option that matches the run's length.
     void showQuestionsChoice();
     // Hides the end-of-run label, moves it to the middle of the screen and

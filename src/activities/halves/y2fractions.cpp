@@ -6,7 +6,6 @@
 #include "runtime/forms.h"
 #include "runtime/picturebox.h"
 #include "runtime/twips.h"
-#include "shell/captionbelowicon.h"
 #include "shell/module1.h"
 #include "worksheets/printforms.h"
 
@@ -92,13 +91,6 @@ Y2fractions::Y2fractions()
     // Until Start there is no question to check or hint at.
     cmdcheck->setEnabled(false);
     cmdhint->setEnabled(false);
-    auto* buttonLook = new CaptionBelowIconStyle(this);
-    for (QPushButton* b : {cmdprint, cmdstart, cmdcheck, cmdhint, cmdexit}) {
-        b->setStyle(buttonLook);
-        b->setFont(Twips::font(QStringLiteral("Arial"), 8));
-        b->setAutoDefault(true); // Enter presses the button that has the focus
-        b->raise(); // a tall reward picture reaches up behind the first two
-    }
     Label1->hide();
     Label2->hide();
     Label8->hide();
@@ -151,7 +143,6 @@ void Y2fractions::layOut()
         QStringLiteral("QFrame#Frame1 { border: 2px solid rgba(255, 255, 255, 150); border-radius: 10px; }"));
     for (QRadioButton* option : {Option1, Option2}) {
         option->setFont(Twips::font(QStringLiteral("Times New Roman"), 12, true));
-        option->setBackgroundRole(QPalette::Window);
         QPalette palette = option->palette();
         palette.setColor(QPalette::WindowText, kInstructionInk);
         option->setPalette(palette);

@@ -250,8 +250,6 @@ void y5fract4::buildBoard()
     Label80->hide();
 
     Twips::move(Image2, kPictureLeft, kPictureTop);
-    // The taller pictures reach up behind the buttons.
-    for (QPushButton* b : {cmdprint, cmdstart, cmdcheck, cmdhint, cmdexit})
-        b->raise();
+    raiseButtons();
     Picture1->raise();
 }

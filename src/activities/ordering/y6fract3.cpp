@@ -137,6 +137,7 @@ Y6fract3::Y6fract3()
     // The reward picture stands in the left column, over the board's frame.
     Twips::move(Image2, 0, 1200);
     Image2->raise();
+    raiseButtons();
     // Nothing is checked before Start: the check follows the fifth click.
     cmdcheck->setEnabled(false);
 
@@ -218,9 +219,6 @@ void Y6fract3::buildOpeningPanel()
         QPalette palette = option->palette();
         palette.setColor(QPalette::WindowText, Qt::white);
         option->setPalette(palette);
-        // A button fills its background with the Button colour; these fill
-        // with the back colour the load gives them.
-        option->setBackgroundRole(QPalette::Window);
     }
     Twips::place(Option1, 240, 120, 1960, 480);
     Twips::place(Option2, 2260, 120, 1960, 480);
