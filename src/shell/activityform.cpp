@@ -55,6 +55,12 @@ ActivityForm::ActivityForm(const QString& name, QWidget* parent)
 {
     Image2->setAutoSize(true);
     Image2->hide();
+    // The design captions; setupform renames the print button.
+    cmdprint->setText(QStringLiteral("Print WorkSheet"));
+    cmdstart->setText(QStringLiteral("Start"));
+    cmdcheck->setText(QStringLiteral("Check Answers"));
+    cmdhint->setText(QStringLiteral("Hint"));
+    cmdexit->setText(QStringLiteral("Exit"));
     // Each caption under its picture, as the buttons are designed.
     auto* buttonLook = new CaptionBelowIconStyle(this);
     for (QPushButton* b : {cmdprint, cmdstart, cmdcheck, cmdhint, cmdexit})
@@ -70,11 +76,6 @@ void ActivityForm::raiseButtons()
 
 void ActivityForm::loadButtonPictures()
 {
-    cmdprint->setText(QStringLiteral("Print WorkSheet"));
-    cmdstart->setText(QStringLiteral("Start"));
-    cmdcheck->setText(QStringLiteral("Check Answers"));
-    cmdhint->setText(QStringLiteral("Hint"));
-    cmdexit->setText(QStringLiteral("Exit"));
     setButtonPicture(cmdexit, QStringLiteral("ico\\door2.ico"));
     setButtonPicture(cmdstart, QStringLiteral("ico\\trffc10a.ico"));
     setButtonPicture(cmdprint, QStringLiteral("ico\\print.bmp"));

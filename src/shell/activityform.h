@@ -27,8 +27,8 @@ public:
     QRadioButton* Option1;
     QRadioButton* Option2;
 
-    // The buttons' design captions and pictures, and the screen's icon, as
-    // every activity loads them.
+    // The buttons' pictures and the screen's icon, as every activity loads
+    // them.
     void loadButtonPictures();
     // Puts the button row above everything else: a tall reward picture
     // reaches up behind it.

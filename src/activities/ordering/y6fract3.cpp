@@ -242,8 +242,6 @@ NumberSet::Texts Y6fract3::answers() const
 
 void Y6fract3::Form_Load()
 {
-    // The design captions and pictures first; setupform then names the
-    // print button as its tool tip does.
     loadButtonPictures();
     setupform(*this);
     showQuestionsChoice();
