@@ -121,7 +121,11 @@ Y6fract3::Y6fract3()
     Twips::place(Label9, kLeftColumn, 1320, kLeftColumnWidth, 1500);
     Label9->hide();
     Twips::place(Label1, kMessageLeft, kFrameTop + 30, kMessageWidth, 690);
-    Twips::place(Label2, kMessageLeft, kFrameTop + 30, kMessageWidth, 690);
+    // The feedback stands over the title, in the left column: the stars of a
+    // right answer play over the right of the screen.
+    Twips::place(Label2, kLeftColumn, 5400, kLeftColumnWidth + 120, 1020);
+    setControlBackColour(Label2, kActivityBack);
+    Label2->raise();
     Label2->hide();
     Twips::place(Label8, kNumbersLeft, 2400, 5400, 1800);
     // The ready message's place reaches under the reward picture's edge;
