@@ -103,3 +103,16 @@ void ActivityForm::showReadyMessage(QLabel* label, const QString& streakText)
     label->setText(readyText(streakText));
     label->show();
 }
+
+QLabel* wordLabel(QWidget* parent, const QString& name, const QString& text, double points, const QColor& ink)
+{
+    auto* label = new QLabel(text, parent);
+    label->setObjectName(name);
+    label->setFont(Twips::font(QStringLiteral("Times New Roman"), points, true));
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignCenter);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::All, QPalette::WindowText, ink);
+    label->setPalette(palette);
+    return label;
+}

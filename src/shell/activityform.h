@@ -6,6 +6,7 @@
 // its reward picture "Image2(0)").
 #include "runtime/form.h"
 
+class QColor;
 class QLabel;
 class QPushButton;
 class QRadioButton;
@@ -44,3 +45,7 @@ public:
     static constexpr int kButtonWidth = 1455;
     static constexpr int kButtonHeight = 855;
 };
+
+// A label in the activities' words: "Times New Roman" bold, centred and
+// wrapped, in an ink that stays when its screen is disabled for a moment.
+QLabel* wordLabel(QWidget* parent, const QString& name, const QString& text, double points, const QColor& ink);

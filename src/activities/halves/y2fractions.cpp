@@ -42,30 +42,17 @@ constexpr int kEndMargin = 30; // pixels between the end-of-run text and the rew
 const QColor kInstructionInk{255, 255, 255};
 const QColor kMessageInk{255, 236, 120};
 
-QLabel* label(QWidget* parent, const char* name, const QString& text, double points, const QColor& ink)
-{
-    auto* l = new QLabel(text, parent);
-    l->setObjectName(QString::fromLatin1(name));
-    l->setFont(Twips::font(QStringLiteral("Times New Roman"), points, true));
-    l->setWordWrap(true);
-    l->setAlignment(Qt::AlignCenter);
-    QPalette palette = l->palette();
-    palette.setColor(QPalette::WindowText, ink);
-    l->setPalette(palette);
-    return l;
-}
-
 } // namespace
 
 Y2fractions::Y2fractions()
     : ActivityForm(QStringLiteral("Y2fractions"))
-    , Label1(label(this, "Label1", QString(), 14, kInstructionInk))
-    , Label2(label(this, "Label2", QStringLiteral("dhshsdhsdhdfgh"), 14, kMessageInk))
-    , Label8(label(this, "Label8", QStringLiteral("Click Start to have another go... or click Exit"), 16,
+    , Label1(wordLabel(this, QStringLiteral("Label1"), QString(), 14, kInstructionInk))
+    , Label2(wordLabel(this, QStringLiteral("Label2"), QStringLiteral("dhshsdhsdhdfgh"), 14, kMessageInk))
+    , Label8(wordLabel(this, QStringLiteral("Label8"), QStringLiteral("Click Start to have another go... or click Exit"), 16,
                    kInstructionInk))
-    , Label3(label(Picture1, "Label3", QStringLiteral("Good Luck."), 18, kMessageInk))
-    , Label4(label(Picture1, "Label4", QStringLiteral("Halves and Quarters 1"), 26, kInstructionInk))
-    , Label6(label(Picture1, "Label6", QStringLiteral("Aim to get 10 or 20 questions correct to gain a certificate."),
+    , Label3(wordLabel(Picture1, QStringLiteral("Label3"), QStringLiteral("Good Luck."), 18, kMessageInk))
+    , Label4(wordLabel(Picture1, QStringLiteral("Label4"), QStringLiteral("Halves and Quarters 1"), 26, kInstructionInk))
+    , Label6(wordLabel(Picture1, QStringLiteral("Label6"), QStringLiteral("Aim to get 10 or 20 questions correct to gain a certificate."),
                    14, kInstructionInk))
     , Frame1(new QFrame(this))
     , Frame2(new QFrame(this))

@@ -4,6 +4,7 @@
 #include "placevalue.h"
 #include "runtime/forms.h"
 #include "runtime/twips.h"
+#include "shell/activityform.h"
 #include "shell/module1.h"
 
 #include <QFrame>
@@ -43,19 +44,6 @@ constexpr int kFirstExampleTop = 2580;
 constexpr int kExamplePitch = 640;
 constexpr int kExampleHeight = 600;
 constexpr int kExplanationLeft = 4860;
-
-QLabel* wordLabel(QWidget* parent, const QString& name, const QString& text, double points, const QColor& ink)
-{
-    auto* label = new QLabel(text, parent);
-    label->setObjectName(name);
-    label->setFont(Twips::font(kWords, points, true));
-    label->setWordWrap(true);
-    label->setAlignment(Qt::AlignCenter);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, ink);
-    label->setPalette(palette);
-    return label;
-}
 
 // The explanation as rich text: a gap before each comparison, and the
 // compared digits bold, larger and coloured.

@@ -36,17 +36,6 @@ constexpr int kBackspace = 8;
 const QString kWords = QStringLiteral("Times New Roman");
 const QColor kHighlight{255, 224, 80};
 
-QLabel* wordLabel(QWidget* parent, const QString& name, const QString& text, double points, const QColor& ink)
-{
-    auto* label = new QLabel(text, parent);
-    label->setObjectName(name);
-    label->setFont(Twips::font(kWords, points, true));
-    label->setWordWrap(true);
-    label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(QStringLiteral("color: %1;").arg(ink.name()));
-    return label;
-}
-
 // The number and answer cards: the same size in both columns, the numbers'
 // card kept to the right of its place, clear of the reward picture. A
 // placed number greys; the answers keep their colours.
