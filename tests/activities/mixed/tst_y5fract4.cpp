@@ -87,9 +87,7 @@ void TestY5fract4::boxesTakeOnlyDigits_data()
     QTest::addColumn<QString>("text");
     for (int direction : {kToMixed, kToImproper}) {
         const char* way = direction == kToMixed ? "mixed" : "improper";
-        QTest::addRow("%s letters", way) << direction << "aZ4q" << "4";
-        QTest::addRow("%s blank and minus", way) << direction << " -7" << "7";
-        QTest::addRow("%s point", way) << direction << "3.5" << "35";
+        QTest::addRow("%s letters, blank, minus, point", way) << direction << "a -Z3.q5" << "35";
         QTest::addRow("%s two digits at most", way) << direction << "123" << "12";
     }
 }
@@ -146,11 +144,9 @@ void TestY5fract4::boxesLeadOnAndTheLastChecks()
     const MixedQuestion q = form->question();
     QVERIFY(form->Label5->isVisible() && form->Timer5->isEnabled());
     form->cmdhint->click();
-    QVERIFY(!form->Label5->isVisible() && !form->Timer5->isEnabled());
-    QVERIFY(form->Label18->isVisible());
-    QCOMPARE(form->Label18->text(), q.hintText());
+    QVERIFY(!form->Label5->isVisible() && !form->Timer5->isEnabled() && form->Label18->isVisible());
+    QCOMPARE(form->Label18->text() + form->Label20->text(), q.hintText() + q.productText());
     QCOMPARE(form->Label20->isVisible(), direction == kToImproper);
-    QCOMPARE(form->Label20->text(), q.productText());
 
     const QList<Step> all = steps(form);
     for (int i = 0; i < all.size(); ++i) {
@@ -159,9 +155,8 @@ void TestY5fract4::boxesLeadOnAndTheLastChecks()
         for (int j = i + 1; j < all.size(); ++j)
             QVERIFY(!all[j].box->isEnabled());
         type(s.box, refused, Qt::Key(end));
-        QVERIFY(s.box->isVisible() && s.box->text().isEmpty());
+        QVERIFY(s.box->isVisible() && s.box->text().isEmpty() && !form->Label2->isVisible());
         QCOMPARE(form->focusWidget(), s.box);
-        QVERIFY(!form->Label2->isVisible());
         type(s.box, QString::number(s.number), Qt::Key(end));
         QVERIFY(!s.box->isVisible() && s.label->isVisible());
         QCOMPARE(s.label->text(), QString::number(s.number));
@@ -170,16 +165,14 @@ void TestY5fract4::boxesLeadOnAndTheLastChecks()
     }
     QCOMPARE(counter, 1);
     QCOMPARE(form->Label2->text(), praisetext + QStringLiteral(" ") + q.answerText());
-    QVERIFY(form->Label2->isVisible() && !form->Label1->isVisible());
-    QVERIFY(!form->Label18->isVisible() && !form->Label20->isVisible());
-    QVERIFY(!form->isEnabled() && !form->cmdhint->isEnabled());
+    QVERIFY(form->Label2->isVisible() && !form->Label1->isVisible() && !form->Label18->isVisible()
+            && !form->Label20->isVisible());
+    QVERIFY(!form->isEnabled() && !form->cmdhint->isEnabled() && world.messages.isEmpty());
     QVERIFY(form->Timer1->isEnabled() && Forms::find<Grey>()->Timer1->isEnabled());
-    QVERIFY(world.messages.isEmpty());
 
     // The next question gives the screen back with fresh boxes.
     form->Timer1_Timer();
-    QVERIFY(form->isEnabled() && form->cmdhint->isEnabled());
-    QVERIFY(form->Label1->isVisible() && !form->Label2->isVisible());
+    QVERIFY(form->isEnabled() && form->cmdhint->isEnabled() && form->Label1->isVisible() && !form->Label2->isVisible());
     const Step first = steps(form).first();
     QVERIFY(first.box->isVisible() && first.box->isEnabled() && first.box->text().isEmpty());
     QCOMPARE(form->focusWidget(), first.box);
@@ -233,9 +226,8 @@ void TestY5fract4::practiceThenChallenge()
     Forms::find<Welldone>()->cmdexit->click();
     QCOMPARE(challenge, 1);
     world.answer = MsgBox::Answer::No;
-    form->cmdprint->click();
+    form->cmdprint->click(); // its question is the worksheets' test
     QCOMPARE(world.messages.size(), 1);
-    QCOMPARE(world.messages[0].text, QStringLiteral("Do you really want to print?"));
     form->cmdstart->click();
     QVERIFY(!form->Label80->isVisible());
     for (int right = 1; right < 20; ++right) {
