@@ -69,7 +69,6 @@ private slots:
     void screenBoardAndPrint();
     void answerOutcomes_data();
     void answerOutcomes();
-    void wholeGameByClicks_data();
     void wholeGameByClicks();
 
 private:
@@ -244,24 +243,15 @@ void TestY2fractions::answerOutcomes()
     QVERIFY(form->cmdcheck->isEnabled() && form->cmdhint->isEnabled() && form->Image1[0]->isEnabled());
 }
 
-void TestY2fractions::wholeGameByClicks_data()
-{
-    QTest::addColumn<bool>("twenty");
-    QTest::newRow("10 questions") << false;
-    QTest::newRow("20 questions") << true;
-}
-
 // A game as a child plays it, reading the instruction and the pictures off
-// the screen: practice with a slip and a hint (neither costs anything) to
-// the certificate, then the Challenge with a slip that starts the same
-// picture again, then the certificate back at the menu.
+// the screen: 20 questions of practice with a slip and a hint (neither costs
+// anything) to the certificate, then the Challenge with a slip that starts
+// the same picture again, then the certificate back at the menu.
 void TestY2fractions::wholeGameByClicks()
 {
-    QFETCH(bool, twenty);
     Y2fractions* form = openFromMenu();
-    if (twenty)
-        QTest::mouseClick(form->Option2, Qt::LeftButton, {}, QPoint(8, form->Option2->height() / 2));
-    const int run = twenty ? 20 : 10;
+    QTest::mouseClick(form->Option2, Qt::LeftButton, {}, QPoint(8, form->Option2->height() / 2));
+    const int run = 20;
     QCOMPARE(questions, run);
     QTest::mouseClick(form->cmdstart, Qt::LeftButton);
     const QString picture = picset;
