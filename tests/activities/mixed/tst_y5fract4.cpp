@@ -27,7 +27,6 @@ y5fract4* openScreen()
     return qobject_cast<y5fract4*>(Forms::show(QStringLiteral("y5fract4")));
 }
 
-// Start is pressed until a question of that direction comes up.
 void startWith(y5fract4* form, int direction)
 {
     do
@@ -142,7 +141,6 @@ void TestY5fract4::boxesLeadOnAndTheLastChecks()
     QVERIFY(!form->isEnabled() && !form->cmdhint->isEnabled() && world.messages.isEmpty());
     QVERIFY(form->Timer1->isEnabled() && Forms::find<Grey>()->Timer1->isEnabled());
 
-    // The next question gives the screen back with fresh boxes.
     form->Timer1_Timer();
     QVERIFY(form->isEnabled() && form->cmdhint->isEnabled() && form->Label1->isVisible() && !form->Label2->isVisible());
     const Step first = steps(form).first();

@@ -198,10 +198,10 @@ void TestY6fract3::check()
 }
 
 // The whole cycle: a practice run of 10 (a forgiven wrong order is check()'s
-// test), the certificate, then the Challenge from the
-// same screen: a slip after one right answer starts the same picture again,
-// with the retry screen 6.5 s after the check while the reveal goes on; then
-// a run as long as the streak, ending at the menu and the certificate.
+// test), the certificate, then the Challenge from the same screen: a slip
+// after one right answer starts the same picture again, with the retry screen
+// 6.5 s after the check while the reveal goes on; then a run as long as the
+// streak, ending at the menu and the certificate.
 void TestY6fract3::practiceThenChallenge()
 {
     start();
