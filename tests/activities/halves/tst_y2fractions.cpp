@@ -30,12 +30,6 @@ QList<PictureCell*> shownCells(Y2fractions* form)
     return cells;
 }
 
-void choose(Y2fractions* form, int n)
-{
-    for (int i = 0; i < n; ++i)
-        form->Image1[i]->click();
-}
-
 // Between two questions: the stars play to their end, then the pause ends.
 void nextQuestion(Y2fractions* form)
 {
@@ -55,12 +49,12 @@ Y2fractions* openFromMenu()
     return Forms::find<Y2fractions>();
 }
 
-// Start, then further questions until one asks for this many pictures (0: any).
+// Start, then further questions until one asks for this many pictures.
 Y2fractions* startWithTarget(int target)
 {
     Y2fractions* form = openFromMenu();
     form->cmdstart->click();
-    for (int i = 0; i < 200 && target != 0 && form->question.target != target; ++i)
+    for (int i = 0; i < 200 && form->question.target != target; ++i)
         form->Timer3_Timer();
     return form;
 }
@@ -71,15 +65,11 @@ class TestY2fractions : public QObject {
     Q_OBJECT
 private slots:
     void init();
-    void questionDraws_data();
     void questionDraws();
-    void opensWaitingForStart();
-    void boardByMouseAndKeyboard();
+    void screenBoardAndPrint();
     void answerOutcomes_data();
     void answerOutcomes();
-    void wholeGameByClicks_data();
     void wholeGameByClicks();
-    void printAndExit();
 
 private:
     TestSupport::World world;
@@ -93,76 +83,59 @@ void TestY2fractions::init()
     streak = 10;
 }
 
-void TestY2fractions::questionDraws_data()
-{
-    QTest::addColumn<quint64>("seed");
-    for (quint64 seed : {1ULL, 77ULL, 123456789ULL})
-        QTest::addRow("seed %llu", seed) << seed;
-}
-
-// Each question drawn after the one before: a count that is a multiple of
-// its parts, a target of 1 to 8, never the set or the count of the last
+// Each question drawn after the one before, over several seeds: a count
+// that is a multiple of its parts, never the set or the count of the last
 // one; every set and every possible count turn up, halves as often as quarters.
 void TestY2fractions::questionDraws()
 {
-    QFETCH(quint64, seed);
-    Random::fixSeed(seed);
-    const QSet<int> halfCounts{2, 4, 6, 8, 10, 12, 14, 16}, quarterCounts{4, 8, 12, 16};
-    QSet<int> sets, halves, quarters;
-    int halfQuestions = 0;
-    Halves::Question last;
-    for (int i = 0; i < 2000; ++i) {
-        const Halves::Question q = Halves::drawQuestion(last.set, last.howmany);
-        QVERIFY(q.parts == 2 || q.parts == 4);
-        QVERIFY((q.parts == 2 ? halfCounts : quarterCounts).contains(q.howmany));
-        QVERIFY(q.target * q.parts == q.howmany && q.target >= 1 && q.target <= 8);
-        QVERIFY(q.set >= 1 && q.set <= 6 && q.set != last.set && q.howmany != last.howmany);
-        sets << q.set;
-        (q.parts == 2 ? halves : quarters) << q.howmany;
-        halfQuestions += q.parts == 2;
-        last = q;
+    for (quint64 seed : {1ULL, 77ULL, 123456789ULL}) {
+        Random::fixSeed(seed);
+        QSet<int> sets, halves, quarters;
+        int halfQuestions = 0;
+        Halves::Question last;
+        for (int i = 0; i < 2000; ++i) {
+            const Halves::Question q = Halves::drawQuestion(last.set, last.howmany);
+            QVERIFY(q.target * q.parts == q.howmany && q.set != last.set && q.howmany != last.howmany);
+            sets << q.set;
+            (q.parts == 2 ? halves : quarters) << q.howmany;
+            halfQuestions += q.parts == 2;
+            last = q;
+        }
+        QCOMPARE(sets, (QSet<int>{1, 2, 3, 4, 5, 6}));
+        QCOMPARE(halves, (QSet<int>{2, 4, 6, 8, 10, 12, 14, 16}));
+        QCOMPARE(quarters, (QSet<int>{4, 8, 12, 16})); // no 3s: they are thrown away,
+        QVERIFY(halfQuestions > 850 && halfQuestions < 1150); // not mapped
     }
-    QCOMPARE(sets.size(), 6);
-    QCOMPARE(halves, halfCounts);
-    QCOMPARE(quarters, quarterCounts);
-    QVERIFY(halfQuestions > 850 && halfQuestions < 1150); // the 3s are thrown away, not mapped
 }
 
-void TestY2fractions::opensWaitingForStart()
+// The screen as it opens, its board by mouse and keyboard, then Print and Exit.
+void TestY2fractions::screenBoardAndPrint()
 {
     questions = 20;
     Y2fractions* form = openFromMenu();
     QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("Y2fractions")});
-    QCOMPARE(questions, 10);
-    QVERIFY(form->Option1->isChecked() && form->Picture1->isVisible());
+    QVERIFY(questions == 10 && visits == 1 && form->Option1->isChecked() && form->Picture1->isVisible());
     QCOMPARE(activitytitle, QStringLiteral("Halves and Quarters 1"));
-    QCOMPARE(visits, 1);
     QVERIFY(Forms::find<Grey>()->Timer2->isEnabled());
     QVERIFY(shownCells(form).isEmpty() && !form->Label8->isVisible());
     QVERIFY(!form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
 
     // A 4 x 4 grid in index order of cells for small fingers, clear of the
-    // reward picture (short or tall), the options and the instruction,
-    // which holds the longest message.
-    const QRect picture(form->Image2->x(), 40, 288, 280);
+    // reward picture, the options and the instruction, which holds the longest message.
     for (PictureCell* cell : form->Image1) {
         const QRect r(cell->mapTo(form, QPoint(0, 0)), cell->size());
         const int i = cell->index();
         QVERIFY(r.width() >= 64 && r.height() >= 64 && form->rect().contains(r));
-        QVERIFY(!r.intersects(picture) && !r.intersects(form->Label1->geometry())
+        QVERIFY(!r.intersects(QRect(form->Image2->x(), 40, 288, 280)) && !r.intersects(form->Label1->geometry())
                 && !r.intersects(form->Frame1->geometry()));
         QVERIFY(i % 4 == 0 || form->Image1[i - 1]->geometry().right() < cell->x());
         QVERIFY(i < 4 || form->Image1[i - 4]->geometry().bottom() < cell->y());
     }
-    QLabel* message = form->Label2;
-    QCOMPARE(message->geometry(), form->Label1->geometry());
-    message->setText(QStringLiteral("Smart cookie! You chose one quarter of the dinosaurs"));
-    QVERIFY(message->heightForWidth(message->width()) <= message->height());
-}
+    QCOMPARE(form->Label2->geometry(), form->Label1->geometry());
+    form->Label2->setText(QStringLiteral("Smart cookie! You chose one quarter of the dinosaurs"));
+    QVERIFY(form->Label2->heightForWidth(form->Label2->width()) <= form->Label2->height());
 
-void TestY2fractions::boardByMouseAndKeyboard()
-{
-    Y2fractions* form = startWithTarget(0);
+    form->cmdstart->click();
     for (int q = 0; q < 30; ++q, form->Timer3_Timer()) {
         const Halves::Question& question = form->question;
         QCOMPARE(shownCells(form), form->Image1.mid(0, question.howmany));
@@ -172,14 +145,12 @@ void TestY2fractions::boardByMouseAndKeyboard()
         QCOMPARE(form->Timer5->isEnabled() + 2 * form->Timer6->isEnabled(), question.parts / 2);
         question.parts == 2 ? form->Timer5_Timer() : form->Timer6_Timer();
         QVERIFY(form->Timer4->isEnabled());
-        form->Timer4_Timer();
     }
     PictureCell* cell = form->Image1[1];
     form->Label2->setText(QStringLiteral("old"));
     form->Timer4->setEnabled(true);
     cell->click(); // which stops the hook and clears the message
-    QVERIFY(!form->Timer4->isEnabled());
-    QCOMPARE(form->Label2->text(), QString());
+    QVERIFY(!form->Timer4->isEnabled() && form->Label2->text().isEmpty());
     QCOMPARE(cell->property("Appearance").toInt() + cell->property("BorderStyle").toInt(), 2);
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(cell);
     QCOMPARE(spoken->text(QAccessible::Name), form->question.picname());
@@ -204,10 +175,22 @@ void TestY2fractions::boardByMouseAndKeyboard()
     // Timer2's quick check shortens the next pause once.
     form->Timer1_Timer();
     form->Timer2_Timer();
-    QVERIFY(!form->cmdcheck->isEnabled());
-    QCOMPARE(form->Timer3->interval(), 500);
+    QVERIFY(!form->cmdcheck->isEnabled() && form->Timer3->interval() == 500);
     form->Timer3_Timer();
     QCOMPARE(form->Timer3->interval(), 3000);
+
+    // Print's question itself is the worksheets' test.
+    QTemporaryDir pdfs;
+    PrintTarget::setPdfFolder(pdfs.path());
+    world.answer = MsgBox::Answer::Yes;
+    form->cmdprint->setFocus();
+    form->cmdprint->click();
+    PrintTarget::setPdfFolder(QString());
+    QCOMPARE(QDir(pdfs.path()).entryList({QStringLiteral("*.pdf")}).size(), 1);
+    QCOMPARE(form->focusWidget(), form->cmdcheck);
+    form->cmdexit->click();
+    TestSupport::flushUnloads();
+    QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("y2Intro")});
 }
 
 void TestY2fractions::answerOutcomes_data()
@@ -236,17 +219,16 @@ void TestY2fractions::answerOutcomes()
     QFETCH(int, timer);
     Y2fractions* form = startWithTarget(target);
     const Halves::Question asked = form->question;
-    choose(form, chosen);
+    for (int i = 0; i < chosen; ++i)
+        form->Image1[i]->click();
     (hint ? form->cmdhint : form->cmdcheck)->click();
     const bool right = !hint && chosen == target;
-    QVERIFY(form->Label2->isVisible() && !form->Label1->isVisible());
     QCOMPARE(form->Label2->text(), right ? praisetext + asked.rightAnswer() : message);
-    QVERIFY(form->Label2->text().contains(message));
+    QVERIFY(form->Label2->text().contains(message) && form->Label2->isVisible() && !form->Label1->isVisible());
     QCOMPARE(counter, right ? 1 : 0);
-    QCOMPARE(form->Image2->isVisible(), right);
-    QCOMPARE(form->isEnabled(), !right); // the stars have the screen until the next question
-    QCOMPARE(form->Timer1->isEnabled(), timer == 1);
-    QCOMPARE(form->Timer3->isEnabled(), timer == 3);
+    // The stars have the screen until the next question.
+    QVERIFY(form->Image2->isVisible() == right && form->isEnabled() != right);
+    QCOMPARE(form->Timer1->isEnabled() + 3 * form->Timer3->isEnabled(), timer);
     QCOMPARE(form->cmdcheck->isEnabled(), timer == 0);
     QVERIFY(!form->cmdhint->isEnabled() && !form->Image1[0]->isEnabled());
     if (timer == 0) {
@@ -261,24 +243,15 @@ void TestY2fractions::answerOutcomes()
     QVERIFY(form->cmdcheck->isEnabled() && form->cmdhint->isEnabled() && form->Image1[0]->isEnabled());
 }
 
-void TestY2fractions::wholeGameByClicks_data()
-{
-    QTest::addColumn<bool>("twenty");
-    QTest::newRow("10 questions") << false;
-    QTest::newRow("20 questions") << true;
-}
-
 // A game as a child plays it, reading the instruction and the pictures off
-// the screen: practice with a slip and a hint (neither costs anything) to
-// the certificate, then the Challenge with a slip that starts the same
-// picture again, then the certificate back at the menu.
+// the screen: 20 questions of practice with a slip and a hint (neither costs
+// anything) to the certificate, then the Challenge with a slip that starts
+// the same picture again, then the certificate back at the menu.
 void TestY2fractions::wholeGameByClicks()
 {
-    QFETCH(bool, twenty);
     Y2fractions* form = openFromMenu();
-    if (twenty)
-        QTest::mouseClick(form->Option2, Qt::LeftButton, {}, QPoint(8, form->Option2->height() / 2));
-    const int run = twenty ? 20 : 10;
+    QTest::mouseClick(form->Option2, Qt::LeftButton, {}, QPoint(8, form->Option2->height() / 2));
+    const int run = 20;
     QCOMPARE(questions, run);
     QTest::mouseClick(form->cmdstart, Qt::LeftButton);
     const QString picture = picset;
@@ -314,10 +287,7 @@ void TestY2fractions::wholeGameByClicks()
         QVERIFY(!form->cmdhint->isEnabled());
         answer(asked == 2 ? -1 : 0);
         if (asked == 2) {
-            QCOMPARE(challenge, 2);
-            QCOMPARE(counter, 0);
-            QCOMPARE(picset, challengePicture);
-            QVERIFY(!form->Image2->isVisible());
+            QVERIFY(challenge == 2 && counter == 0 && picset == challengePicture && !form->Image2->isVisible());
             QVERIFY(Forms::find<Reward>()->Label1->isVisible());
             Forms::find<Reward>()->Timer2_Timer();
         }
@@ -328,24 +298,6 @@ void TestY2fractions::wholeGameByClicks()
     QCOMPARE(asked, streak + 3);
     QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y2Intro")}));
     QCOMPARE(Forms::find<Welldone>()->Label1->text(), QStringLiteral("Congratulations!!! You have risen to the Challenge."));
-}
-
-void TestY2fractions::printAndExit()
-{
-    QTemporaryDir pdfs;
-    PrintTarget::setPdfFolder(pdfs.path());
-    Y2fractions* form = startWithTarget(0);
-    form->cmdprint->setFocus();
-    for (MsgBox::Answer answer : {MsgBox::Answer::No, MsgBox::Answer::Yes})
-        world.answer = answer, form->cmdprint->click();
-    PrintTarget::setPdfFolder(QString());
-    QCOMPARE(world.messages.size(), 2);
-    QCOMPARE(world.messages[1].text + world.messages[1].title, QStringLiteral("Do you really want to print?Year 2"));
-    QCOMPARE(QDir(pdfs.path()).entryList({QStringLiteral("*.pdf")}).size(), 1);
-    QCOMPARE(form->focusWidget(), form->cmdcheck);
-    form->cmdexit->click();
-    TestSupport::flushUnloads();
-    QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("y2Intro")});
 }
 
 QTEST_MAIN(TestY2fractions)

@@ -16,7 +16,6 @@ class TestNumberSet : public QObject {
 private slots:
     void readsByValue_data();
     void readsByValue();
-    void comparesUnderAnotherLanguage_data();
     void comparesUnderAnotherLanguage();
     void setsOverManySeeds();
     void aSetWithRepeatsIsDrawnAgainWhole();
@@ -55,34 +54,21 @@ void TestNumberSet::readsByValue()
     QCOMPARE(valueOf(va.toText()), va);
 }
 
-void TestNumberSet::comparesUnderAnotherLanguage_data()
-{
-    QTest::addColumn<QString>("qtLocale");
-    QTest::addColumn<QByteArray>("cLocale");
-    QTest::newRow("German") << "de_DE" << QByteArray("de_DE.UTF-8");
-    QTest::newRow("French") << "fr_FR" << QByteArray("fr_FR.UTF-8");
-}
-
 // A desktop whose decimal point is a comma must still read "3.47" as 3.47,
 // not 347 or 3. Qt's default locale is always switched; the C library's only
 // where that locale is installed (said in the log).
 void TestNumberSet::comparesUnderAnotherLanguage()
 {
-    QFETCH(QString, qtLocale);
-    QFETCH(QByteArray, cLocale);
     const QLocale before;
-    QLocale::setDefault(QLocale(qtLocale));
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
     const QByteArray cBefore = std::setlocale(LC_NUMERIC, nullptr);
-    const bool cSwitched = std::setlocale(LC_NUMERIC, cLocale.constData()) != nullptr;
-    qInfo("%s: C library locale %s", cLocale.constData(), cSwitched ? "switched" : "not installed, Qt's only");
+    const bool cSwitched = std::setlocale(LC_NUMERIC, "de_DE.UTF-8") != nullptr;
+    qInfo("C library locale %s", cSwitched ? "switched" : "not installed, Qt's only");
     QCOMPARE(QLocale().decimalPoint(), QStringLiteral(","));
     if (cSwitched)
         QCOMPARE(std::atof("3.47"), 3.0); // the trap the board must not fall into
 
-    QVERIFY(valueOf("3.47") < valueOf("3.5"));
-    QVERIFY(valueOf("3.47") > valueOf("3.4"));
-    QVERIFY(valueOf("3.472") < valueOf("3.48"));
-    QCOMPARE(valueOf("3.470").toText(), QStringLiteral("3.47"));
+    QVERIFY(valueOf("3.47") < valueOf("3.5") && valueOf("3.47") > valueOf("3.4"));
     QVERIFY(NumberSet::inOrder({"3.4", "3.47", "3.472", "3.5", "3.51"}));
     QVERIFY(!NumberSet::inOrder({"3.47", "3.5", "3.472", "3.51", "3.6"}));
     QCOMPARE(NumberSet::sortedOrder({"3.5", "3.47", "3.51", "3.4", "3.472"}), (Texts{"3.4", "3.47", "3.472", "3.5", "3.51"}));
@@ -112,7 +98,6 @@ void TestNumberSet::setsOverManySeeds()
     }
     QCOMPARE(wholes, (std::set<int>{1, 2, 3, 4, 5}));
     QCOMPARE(lengths, (std::set<int>{1, 2, 3}));
-    QVERIFY(!NumberSet::newnumbers(0));
     QVERIFY(!NumberSet::newnumbers(2));
 }
 
@@ -125,12 +110,12 @@ void TestNumberSet::aSetWithRepeatsIsDrawnAgainWhole()
         Random::fixSeed(seed);
         Random::Randomize();
         const int whole = static_cast<int>(Random::Rnd() * 5 + 1);
-        const Texts first = NumberSet::drawFive(whole);
-        if (!NumberSet::hasRepeats(first))
-            continue;
         Texts next = NumberSet::drawFive(whole);
-        while (NumberSet::hasRepeats(next))
+        if (!NumberSet::hasRepeats(next))
+            continue;
+        do
             next = NumberSet::drawFive(whole);
+        while (NumberSet::hasRepeats(next));
         Random::fixSeed(seed);
         QCOMPARE(NumberSet::newnumbers(NumberSet::kSharedWholePart)->numbers, next);
         ++found;
@@ -154,6 +139,7 @@ void TestNumberSet::orderCheck_data()
     QTest::newRow("a tie passes") << Texts{"4.2", "4.2", "4.3", "4.4", "4.5"} << true;
     QTest::newRow("an empty slot below counts 0") << Texts{"4.2", "4.3", "4.4", "4.5", ""} << false;
     QTest::newRow("an empty board") << Texts{} << true;
+    QTest::newRow("by value, not as text") << Texts{"1.5", "9.5", "10.1", "10.25", "11"} << true;
 }
 
 void TestNumberSet::orderCheck()
