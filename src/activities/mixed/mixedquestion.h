@@ -39,6 +39,8 @@ struct MixedQuestion {
     // Draws from the program's random source: first the direction, then the
     // numbers of that direction (the caller re-seeds before each question).
     static MixedQuestion draw();
+
+private:
     static int drawDirection();
     // Whole 1..5; numerator over denominator a proper fraction in lowest
     // terms; the improper fraction in lowest terms too.

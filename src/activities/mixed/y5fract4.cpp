@@ -101,7 +101,9 @@ void y5fract4::newquestion()
 {
     setEnabled(true);
     Random::Randomize();
-    if (MixedQuestion::drawDirection() == MixedQuestion::kToMixed) {
+    m_question = MixedQuestion::draw();
+    m_answertext = m_question.answerText();
+    if (m_question.direction == MixedQuestion::kToMixed) {
         Label1->setText(QStringLiteral("Change to a mixed number..."));
         Timer6->setEnabled(true);
         Label5->setText(QStringLiteral("Type in the correct mixed number and use the ENTER key to move on"));
@@ -114,10 +116,8 @@ void y5fract4::newquestion()
         }
         Picture3->hide();
         Picture2->show();
-        m_question = MixedQuestion::drawImproper();
         Label7->setText(QString::number(m_question.improperNumerator()));
         Label9->setText(QString::number(m_question.denom));
-        m_answertext = m_question.answerText();
         Text1->setFocus();
     } else {
         Label1->setText(QStringLiteral("Change to an improper fraction..."));
@@ -131,11 +131,9 @@ void y5fract4::newquestion()
         }
         Picture2->hide();
         Picture3->show();
-        m_question = MixedQuestion::drawMixed();
         Label19->setText(QString::number(m_question.whole));
         Label15->setText(QString::number(m_question.denom));
         Label16->setText(QString::number(m_question.numer));
-        m_answertext = m_question.answerText();
         Text3->setFocus();
     }
 }
