@@ -23,34 +23,79 @@ std::uint64_t clockTicks()
     return static_cast<std::uint64_t>(now.count()) ^ mix(static_cast<std::uint64_t>(wall.count()));
 }
 
-std::uint64_t g_state = mix(clockTicks());
-bool g_fixed = false;
-
 } // namespace
+
+Source::Source()
+    : m_state(mix(clockTicks()))
+    , m_fixed(false)
+{
+}
+
+Source::Source(std::uint64_t seed)
+    : m_state(mix(seed))
+    , m_fixed(true)
+{
+}
+
+double Source::rnd()
+{
+    m_state += kGolden;
+    // The top 53 bits make a double in [0, 1).
+    return static_cast<double>(mix(m_state) >> 11) * (1.0 / 9007199254740992.0);
+}
+
+void Source::randomize()
+{
+    const std::uint64_t stir = m_fixed ? kGolden : clockTicks();
+    m_state = mix(m_state ^ mix(stir));
+}
+
+int Source::below(int count)
+{
+    return count <= 1 ? 0 : static_cast<int>(rnd() * count);
+}
+
+int Source::between(int low, int high)
+{
+    return low + below(high - low + 1);
+}
+
+void Source::fixSeed(std::uint64_t seed)
+{
+    m_state = mix(seed);
+    m_fixed = true;
+}
+
+void Source::useClock()
+{
+    m_fixed = false;
+    randomize();
+}
+
+Source& program()
+{
+    static Source source;
+    return source;
+}
 
 double Rnd()
 {
-    g_state += kGolden;
-    // The top 53 bits make a double in [0, 1).
-    return static_cast<double>(mix(g_state) >> 11) * (1.0 / 9007199254740992.0);
+    return program().rnd();
 }
 
 void Randomize()
 {
-    const std::uint64_t stir = g_fixed ? kGolden : clockTicks();
-    g_state = mix(g_state ^ mix(stir));
+    program().randomize();
 }
 
 void fixSeed(std::uint64_t seed)
 {
-    g_state = mix(seed);
-    g_fixed = true;
+    program().fixSeed(seed);
 }
 
 void useClock()
 {
-    g_fixed = false;
-    Randomize();
+    program().useClock();
 }
 
 } // namespace Random

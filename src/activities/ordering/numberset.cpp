@@ -1,6 +1,6 @@
 #include "numberset.h"
 
-#include "decimalvalue.h"
+#include "fractions/decimalvalue.h"
 #include "runtime/random.h"
 #include "shell/module1.h"
 

@@ -1,7 +1,7 @@
 #include "y6fract3.h"
 
 #include "boardlabels.h"
-#include "decimalvalue.h"
+#include "fractions/decimalvalue.h"
 #include "rewards/grey.h"
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"

@@ -1,4 +1,4 @@
-#include "activities/ordering/decimalvalue.h"
+#include "fractions/decimalvalue.h"
 #include "activities/ordering/numberset.h"
 #include "runtime/random.h"
 
