@@ -86,11 +86,12 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
     Twips::place(Command4, kLeftColumn, 5340, 2160, 780);
 
     // Right: one row for each activity.
-    const int count = design.activities.size();
+    const QVector<const Activities::Row*> rows = Activities::onMenu(objectName());
+    const int count = rows.size();
     const int pitch = std::min(kLargestRowPitch, kRowsHeight / count);
     const int firstTop = kRowsTop + (kRowsHeight - pitch * count) / 2;
     for (int i = 0; i < count; ++i) {
-        const Menus::Activity& activity = design.activities[i];
+        const Activities::Row& activity = *rows[i];
         const int top = firstTop + i * pitch;
         auto* button = new QPushButton(this);
         button->setObjectName(QString::fromLatin1(activity.button));
@@ -130,7 +131,7 @@ void ActivityMenu::Form_Load()
     Timer1->setEnabled(true);
 }
 
-void ActivityMenu::open(const Menus::Activity& activity)
+void ActivityMenu::open(const Activities::Row& activity)
 {
     if (activity.subMenu) {
         Forms::showAndUnload(QString::fromLatin1(activity.screen), this);
@@ -147,7 +148,7 @@ void ActivityMenu::open(const Menus::Activity& activity)
         target = soon;
     }
     if (auto* prompt = target->findChild<QLabel*>(QStringLiteral("Label6")))
-        prompt->setText(Menus::promptText(activity.prompt));
+        prompt->setText(Activities::promptText(activity.prompt));
     target->setWindowTitle(Label1->text());
     Forms::show(target->objectName());
     Forms::unload(this);

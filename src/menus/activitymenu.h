@@ -3,7 +3,8 @@
 // activities as a button beside a title; a button sets practice mode, writes
 // the activity screen's prompt and window title, and opens it. "Goodbye"
 // goes back to the menu above. The six menus differ only in their rows of
-// data (menudesigns.cpp).
+// data (menudesigns.cpp); their buttons are the activity table's rows.
+#include "activities/activitytable.h"
 #include "logo.h"
 #include "runtime/form.h"
 
@@ -16,18 +17,6 @@ class QPushButton;
 
 namespace Menus {
 
-// The prompt an activity button writes into its screen's Label6.
-enum class Prompt { EitherTenOrTwenty, TenOrTwenty };
-QString promptText(Prompt prompt);
-
-struct Activity {
-    const char* button;  // "Command5"
-    const char* title;   // "Halves and Quarters 1"
-    const char* screen;  // the screen it opens (while not built: Comingsoon)
-    Prompt prompt = Prompt::EitherTenOrTwenty;
-    bool subMenu = false; // opens another menu rather than an activity
-};
-
 struct Design {
     const char* name;       // "y2Intro"
     const char* caption;    // the window title
@@ -36,7 +25,6 @@ struct Design {
     Logo::Frames logo;
     const char* goodbye;    // where "Goodbye" leads
     bool secondStartupTimer; // Timer2 of the start-up chain
-    QVector<Activity> activities; // top to bottom; Label12(i) names row i
 };
 
 extern const Design y2Intro;
@@ -62,7 +50,7 @@ public:
     PictureBox* Picture2; // the publisher's logo
     FormTimer* Timer1;
     FormTimer* Timer2; // nullptr where the chain has one timer
-    QVector<QPushButton*> buttons; // beside Label12(0), Label12(1), ...
+    QVector<QPushButton*> buttons; // beside Label12(0), Label12(1), ...: the table's rows of this menu
     QPushButton* Command4; // "Goodbye"
     QVector<QLabel*> Label12;
     QLabel* Label1; // the year or unit
@@ -76,7 +64,7 @@ public slots:
     void Timer2_Timer();
 
 private:
-    void open(const Menus::Activity& activity);
+    void open(const Activities::Row& activity);
 
     const Menus::Design& m_design;
 };

@@ -2,6 +2,7 @@
 
 #include "runtime/picturebox.h"
 #include "captionbelowicon.h"
+#include "kit/run.h"
 #include "module1.h"
 #include "runtime/twips.h"
 
@@ -52,6 +53,7 @@ ActivityForm::ActivityForm(const QString& name, QWidget* parent)
     , Image2(new PictureBox(this, QStringLiteral("Image2")))
     , Option1(questionsOption(this, "Option1", "10 Questions", kShortRun))
     , Option2(questionsOption(this, "Option2", "20 Questions", kLongRun))
+    , m_run(new Run(*this))
 {
     Image2->setAutoSize(true);
     Image2->hide();
@@ -66,6 +68,11 @@ ActivityForm::ActivityForm(const QString& name, QWidget* parent)
     for (QPushButton* b : {cmdprint, cmdstart, cmdcheck, cmdhint, cmdexit})
         b->setStyle(buttonLook);
     raiseButtons();
+}
+
+void ActivityForm::closeBoxPressed()
+{
+    m_run->exit();
 }
 
 void ActivityForm::raiseButtons()

@@ -8,6 +8,7 @@
 
 class QColor;
 class QLabel;
+class Run;
 class QPushButton;
 class QRadioButton;
 class PictureBox;
@@ -28,6 +29,13 @@ public:
     QRadioButton* Option1;
     QRadioButton* Option2;
 
+    // The practice -> Challenge -> certificate cycle this screen runs on.
+    Run& run() { return *m_run; }
+
+    // What the end of a run takes off the board before the ready text or
+    // the way back to the menu.
+    virtual void clearBoardAtEnd() {}
+
     // The buttons' pictures and the screen's icon, as every activity loads
     // them.
     void loadButtonPictures();
@@ -44,6 +52,13 @@ public:
     // Size of each of the five common buttons, in twips.
     static constexpr int kButtonWidth = 1455;
     static constexpr int kButtonHeight = 855;
+
+protected:
+    // The close box does what Exit does: back to the menu.
+    void closeBoxPressed() override;
+
+private:
+    Run* m_run;
 };
 
 // A label in the activities' words: "Times New Roman" bold, centred and

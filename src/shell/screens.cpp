@@ -1,9 +1,7 @@
 #include "screens.h"
 
-#include "activities/halves/y2fractions.h"
-#include "activities/mixed/y5fract4.h"
+#include "activities/activitytable.h"
 #include "activities/ordering/orderhelp.h"
-#include "activities/ordering/y6fract3.h"
 #include "form1.h"
 #include "menus/activitymenu.h"
 #include "menus/comingsoon.h"
@@ -40,8 +38,6 @@ void registerScreens()
     add<y2fracprint1>();
     add<y5fracprint4>();
     add<y6fracprint3>();
-    add<Y2fractions>();
-    add<y5fract4>();
-    add<Y6fract3>();
+    Activities::registerScreens();
     add<orderhelp>();
 }

@@ -7,7 +7,7 @@
 #include "runtime/picturebox.h"
 #include "runtime/twips.h"
 #include "shell/module1.h"
-#include "worksheets/printforms.h"
+#include "kit/run.h"
 
 #include <QFrame>
 #include <QLabel>
@@ -90,6 +90,9 @@ Y2fractions::Y2fractions()
         setTabOrder(previous, next);
         previous = next;
     }
+
+    run().setLabels(Label1, Label2, Label8);
+    run().setCertificateWords(QStringLiteral("Halves and Quarters 2"));
 
     connect(cmdcheck, &QPushButton::clicked, this, &Y2fractions::cmdcheck_Click);
     connect(cmdhint, &QPushButton::clicked, this, &Y2fractions::cmdhint_Click);
@@ -198,7 +201,7 @@ void Y2fractions::newquestion()
     resetpics();
     Picture1->hide();
     Timer1->setEnabled(false);
-    showInstruction();
+    run().showInstruction();
 
     question = Halves::drawQuestion(lastset, question.howmany);
     lastset = question.set;
@@ -221,61 +224,25 @@ void Y2fractions::Image1_Click(int index)
     Label2->setText(QString());
 }
 
-void Y2fractions::showMessage(const QString& text)
-{
-    Label2->setText(text);
-    Label1->hide();
-    Label2->show();
-}
-
-void Y2fractions::showInstruction()
-{
-    Label2->hide();
-    Label1->show();
-}
-
 void Y2fractions::cmdcheck_Click()
 {
-    using namespace Module1;
     switchoff();
     for (FormTimer* timer : {Timer1, Timer3, Timer4, Timer5, Timer6})
         timer->setEnabled(false);
     const int count = selectedCount();
 
-    if (count == question.target) {
-        ++counter;
-        nextpicture(*this);
-        if (counter >= questions) {
-            counter = 0;
-            Label1->setText(QString());
-            for (PictureCell* cell : Image1)
-                cell->hide();
-            Label8->show();
-            cmdcheck->setEnabled(false);
-            cmdhint->setEnabled(false);
-            if (challenge > 0)
-                cmdexit_Click(); // the Challenge is won: back to the menu
-            else
-                showReadyMessage(Label8, QString::number(streak));
-            showwelldone(QStringLiteral("Halves and Quarters 2"));
-            return;
-        }
-        praise();
-        showMessage(praisetext + question.rightAnswer());
-        Timer3->setEnabled(true);
-    } else if (count == 0) {
-        // The same question comes back, with the child's marks kept.
-        showMessage(QStringLiteral("You must choose some pictures!"));
-        Timer1->setEnabled(true);
-    } else {
-        if (challenge > 0) {
-            challenge = 2;
-            pickpicture(*this); // the same picture starts again from nothing
-            showreward();
-        }
-        showMessage(Halves::shouldHaveClicked(question.target));
-        Timer3->setEnabled(true); // a new question: a wrong one is not asked again
-    }
+    if (count == question.target)
+        run().right(question.rightAnswer(), Timer3);
+    else if (count == 0)
+        run().keep(QStringLiteral("You must choose some pictures!"), Timer1); // the child's marks are kept
+    else
+        run().wrong(Halves::shouldHaveClicked(question.target), Timer3);
+}
+
+void Y2fractions::clearBoardAtEnd()
+{
+    for (PictureCell* cell : Image1)
+        cell->hide();
 }
 
 void Y2fractions::cmdhint_Click()
@@ -283,14 +250,14 @@ void Y2fractions::cmdhint_Click()
     switchoff();
     const int count = selectedCount();
     if (count < question.target) {
-        showMessage(QStringLiteral("You have not chosen enough!"));
+        run().showMessage(QStringLiteral("You have not chosen enough!"));
         Timer1->setEnabled(true);
     } else if (count == question.target) {
-        showMessage(QStringLiteral("You don't need a hint, you have the right answer!"));
+        run().showMessage(QStringLiteral("You don't need a hint, you have the right answer!"));
         cmdcheck->setEnabled(true);
         cmdcheck->setFocus();
     } else {
-        showMessage(QStringLiteral("You have chosen too many!"));
+        run().showMessage(QStringLiteral("You have chosen too many!"));
         Timer1->setEnabled(true);
     }
 }
@@ -308,23 +275,23 @@ void Y2fractions::cmdstart_Click()
     Timer3->setEnabled(false);
     newquestion();
     cmdcheck->setFocus();
-    Module1::pickpicture(*this);
+    run().begin();
 }
 
 void Y2fractions::cmdprint_Click()
 {
-    Worksheets::askAndPrint(QStringLiteral("y2fracprint1"));
+    run().print();
     cmdcheck->setFocus();
 }
 
 void Y2fractions::cmdexit_Click()
 {
-    Forms::showAndUnload(QStringLiteral("y2Intro"), this);
+    run().exit();
 }
 
 void Y2fractions::Timer1_Timer()
 {
-    showInstruction();
+    run().showInstruction();
     Timer1->setEnabled(false);
     switchon(); // Hint only in practice
     cmdcheck->setFocus();
@@ -341,7 +308,7 @@ void Y2fractions::Timer2_Timer()
 
 void Y2fractions::Timer3_Timer()
 {
-    showInstruction();
+    run().showInstruction();
     Timer3->setEnabled(false);
     Timer3->setDesignInterval(kTimer3Ms);
     newquestion(); // Hint only in practice

@@ -41,6 +41,8 @@ public:
     // Cells whose Appearance is 1.
     int selectedCount() const;
 
+    void clearBoardAtEnd() override;
+
     static constexpr int kTimer1Ms = 2500;
     static constexpr int kTimer2Ms = 1000;
     static constexpr int kTimer3Ms = 3000;
@@ -70,7 +72,5 @@ private:
     void switchon();
     void switchoff();
     void newquestion();
-    void showMessage(const QString& text);
-    void showInstruction();
     void layOut();
 };

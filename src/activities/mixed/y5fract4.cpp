@@ -7,7 +7,7 @@
 #include "runtime/picturebox.h"
 #include "runtime/random.h"
 #include "shell/module1.h"
-#include "worksheets/printforms.h"
+#include "kit/run.h"
 
 #include <QFrame>
 #include <QLabel>
@@ -17,9 +17,6 @@
 using namespace Module1;
 
 namespace {
-// The certificate's title as this screen passes it; the certificate does not use it.
-const QString kCertificateTitle = QStringLiteral("Equivalent Fractions 3");
-
 bool isTabOrEnter(int keyAscii)
 {
     return keyAscii == AnswerBox::kTab || keyAscii == AnswerBox::kEnter;
@@ -48,6 +45,12 @@ y5fract4::y5fract4()
     , Timer7(addTimer(QStringLiteral("Timer7"), kTimer7Ms))
 {
     buildBoard();
+    run().setLabels(Label1, Label2, Label80);
+    // The certificate's title as this screen passes it; the certificate does not use it.
+    run().setCertificateWords(QStringLiteral("Equivalent Fractions 3"));
+    // A number is written with a blank before it where a minus would stand.
+    run().setStreakWithBlank(true);
+
     connect(cmdstart, &QPushButton::clicked, this, &y5fract4::cmdstart_Click);
     connect(cmdcheck, &QPushButton::clicked, this, &y5fract4::cmdcheck_Click);
     connect(cmdhint, &QPushButton::clicked, this, &y5fract4::cmdhint_Click);
@@ -94,7 +97,7 @@ void y5fract4::cmdstart_Click()
     for (QWidget* w : std::initializer_list<QWidget*>{Label7, Label9, Text2, Text4, Line1, Line2, Label11})
         w->show();
     newquestion();
-    pickpicture(*this);
+    run().begin();
 }
 
 void y5fract4::newquestion()
@@ -208,45 +211,17 @@ void y5fract4::cmdcheck_Click()
     typed.t4 = boxValue(Text4);
     typed.t5 = boxValue(Text5);
 
-    if (m_question.isAnswer(typed)) {
-        counter += 1;
-        nextpicture(*this);
-        if (counter >= questions) {
-            counter = 0;
-            Label1->setText(QString());
-            Label5->hide();
-            Picture2->hide();
-            Picture3->hide();
-            Label80->show();
-            cmdcheck->setEnabled(false);
-            cmdhint->setEnabled(false);
-            if (challenge > 0) {
-                cmdexit_Click();
-            } else {
-                // A number is written with a blank before it where a minus would stand.
-                const QString run = QString::number(streak);
-                showReadyMessage(Label80, streak >= 0 ? QStringLiteral(" ") + run : run);
-            }
-            showwelldone(kCertificateTitle);
-            return;
-        }
-        praise();
-        Label2->setText(praisetext + QStringLiteral(" ") + m_answertext);
-        Label1->hide();
-        Label2->show();
-        Timer1->setEnabled(true);
-        return;
-    }
+    if (m_question.isAnswer(typed))
+        run().right(QStringLiteral(" ") + m_answertext, Timer1);
+    else
+        run().wrong(QStringLiteral("Incorrect! ") + m_answertext, Timer3);
+}
 
-    if (challenge > 0) {
-        challenge = 2;
-        pickpicture(*this);
-        showreward();
-    }
-    Label2->setText(QStringLiteral("Incorrect! ") + m_answertext);
-    Label1->hide();
-    Label2->show();
-    Timer3->setEnabled(true);
+void y5fract4::clearBoardAtEnd()
+{
+    Label5->hide();
+    Picture2->hide();
+    Picture3->hide();
 }
 
 void y5fract4::cmdhint_Click()
@@ -274,8 +249,7 @@ void y5fract4::Timer1_Timer()
 {
     Timer1->setEnabled(false);
     Timer1->setDesignInterval(kTimer1Ms);
-    Label2->hide();
-    Label1->show();
+    run().showInstruction();
     newquestion();
     if (challenge == 0)
         cmdhint->setEnabled(true);
@@ -285,8 +259,7 @@ void y5fract4::Timer1_Timer()
 void y5fract4::Timer3_Timer()
 {
     Timer3->setEnabled(false);
-    Label2->hide();
-    Label1->show();
+    run().showInstruction();
     // A wrong answer is followed by a new question, not the same one again.
     newquestion();
     if (challenge == 0)
@@ -318,15 +291,10 @@ void y5fract4::Timer7_Timer()
 
 void y5fract4::cmdexit_Click()
 {
-    Forms::showAndUnload(QStringLiteral("y5Intro2"), this);
+    run().exit();
 }
 
 void y5fract4::cmdprint_Click()
 {
-    Worksheets::askAndPrint(QStringLiteral("y5fracprint4"));
-}
-
-void y5fract4::closeBoxPressed()
-{
-    cmdexit_Click();
+    run().print();
 }

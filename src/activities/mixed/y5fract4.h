@@ -75,6 +75,8 @@ public:
     const MixedQuestion& question() const { return m_question; }
     QString answertext() const { return m_answertext; }
 
+    void clearBoardAtEnd() override;
+
 public slots:
     void Form_Load();
     void cmdstart_Click();
@@ -96,9 +98,6 @@ public:
     void Text3_KeyPress(int& KeyAscii);
     void Text4_KeyPress(int& KeyAscii);
     void Text5_KeyPress(int& KeyAscii);
-
-protected:
-    void closeBoxPressed() override;
 
 private:
     void buildBoard();

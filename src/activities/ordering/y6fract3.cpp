@@ -9,7 +9,7 @@
 #include "runtime/random.h"
 #include "runtime/twips.h"
 #include "shell/module1.h"
-#include "worksheets/printforms.h"
+#include "kit/run.h"
 
 #include <QFrame>
 #include <QLabel>
@@ -133,6 +133,10 @@ Y6fract3::Y6fract3()
     raiseButtons();
     // Nothing is checked before Start: the check follows the fifth click.
     cmdcheck->setEnabled(false);
+
+    run().setLabels(Label1, Label2, Label8);
+    // The words handed to the certificate routine, which does not use them.
+    run().setCertificateWords(QStringLiteral("How Many?"));
 
     connect(cmdstart, &QPushButton::clicked, this, &Y6fract3::cmdstart_Click);
     connect(cmdcheck, &QPushButton::clicked, this, &Y6fract3::cmdcheck_Click);
@@ -361,7 +365,7 @@ void Y6fract3::cmdstart_Click()
     for (NumberLabel* number : Label10)
         number->show();
     newnumbers();
-    pickpicture(*this);
+    run().begin();
 }
 
 void Y6fract3::cmdcheck_Click()
@@ -369,33 +373,16 @@ void Y6fract3::cmdcheck_Click()
     Label9->hide();
     cmdhint->setEnabled(false);
     if (NumberSet::inOrder(answers())) {
-        counter += 1;
-        nextpicture(*this);
-        if (counter < questions) {
-            praise();
-            Label2->setText(praisetext + kRightOrder);
-            Label1->hide();
-            Label2->show();
-            Timer3->setEnabled(true);
-        } else {
-            endOfRun();
-        }
+        run().right(kRightOrder, Timer3);
         return;
     }
-    if (challenge > 0) {
-        challenge = 2;
-        pickpicture(*this);
-        Timer5->setEnabled(true);
-    }
-    Label2->setText(kWrongOrder);
-    Label1->hide();
-    Label2->show();
+    // In the Challenge the retry screen waits while the right order is shown.
+    run().wrong(kWrongOrder, nullptr, Timer5);
     showorder();
 }
 
-void Y6fract3::endOfRun()
+void Y6fract3::clearBoardAtEnd()
 {
-    cmdcheck->setEnabled(false);
     for (int i = 0; i < NumberSet::kCount; ++i) {
         Label10[i]->hide();
         Label11[i]->hide();
@@ -404,14 +391,6 @@ void Y6fract3::endOfRun()
     Shape1->hide();
     showPointers(false);
     Label2->clear();
-    Label8->show();
-    counter = 0;
-    Label1->clear();
-    if (challenge > 0)
-        cmdexit_Click();
-    else
-        showReadyMessage(Label8, QString::number(streak));
-    showwelldone(QStringLiteral("How Many?"));
 }
 
 void Y6fract3::showorder()
@@ -441,13 +420,13 @@ QPushButton* Y6fract3::focusAfterPrint() const
 
 void Y6fract3::cmdprint_Click()
 {
-    Worksheets::askAndPrint(QStringLiteral("y6fracprint3"));
+    run().print();
     focusAfterPrint()->setFocus();
 }
 
 void Y6fract3::cmdexit_Click()
 {
-    Forms::showAndUnload(QStringLiteral("y6Intro"), this);
+    run().exit();
 }
 
 void Y6fract3::nextQuestion()

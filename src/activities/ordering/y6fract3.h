@@ -72,6 +72,8 @@ public:
     // off (as in the Challenge) the next one along the row that is on.
     QPushButton* focusAfterPrint() const;
 
+    void clearBoardAtEnd() override;
+
     // A typed-key filter kept for a typed-entry board: Tab or Enter locks a
     // filled entry and checks; only digits, ".", "-" and backspace pass.
     void keyfilter(int& KeyAscii);
@@ -107,6 +109,5 @@ private:
     void buildBoard();
     void buildOpeningPanel();
     void nextQuestion();
-    void endOfRun();
     void showPointers(bool on);
 };
