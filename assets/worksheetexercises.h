@@ -1,9 +1,10 @@
-// The exercises of the printed worksheets, drawn with the asset tool's
-// seeded generator by the same rules as the activities on screen, so a
-// worksheet is the same on every build.
+// The exercises of the printed worksheets, drawn by the activities' own
+// question generators from a seeded source, so a worksheet follows the same
+// rules as the screen and is the same on every build. What is decided here is
+// only what a whole sheet needs: a balance of kinds and no repeats.
 #pragma once
 
-#include "canvas.h"
+#include "runtime/random.h"
 
 #include <QString>
 
@@ -21,7 +22,7 @@ struct HalvesExercise
 
 // As many halves as quarters (one more half when the number is odd), in a
 // shuffled order; no picture and no count twice in a row.
-std::vector<HalvesExercise> makeHalvesExercises(Rng &rng, int exercises, int pictureKinds);
+std::vector<HalvesExercise> makeHalvesExercises(Random::Source &rng, int exercises, int pictureKinds);
 
 // Mixed numbers and improper fractions: whole and numer/denom, the
 // fraction proper and in lowest terms.
@@ -37,12 +38,10 @@ struct MixedExercise
     }
 };
 
-int highestCommonFactor(int a, int b);
-
 // toMixed: an improper fraction to change to a mixed number (whole 1..5);
 // otherwise a mixed number to change to an improper fraction (whole 1..9).
 // Denominators 2..10; no exercise twice on one sheet.
-std::vector<MixedExercise> makeMixedExercises(Rng &rng, bool toMixed, int exercises);
+std::vector<MixedExercise> makeMixedExercises(Random::Source &rng, bool toMixed, int exercises);
 
 // Place In Order: five decimals W.D, W.DD or W.DDD with one whole part W
 // (1..5) and digits 1..9, all of different value.
@@ -52,4 +51,4 @@ struct OrderingExercise
     std::array<QString, 5> numbers;
 };
 
-std::vector<OrderingExercise> makeOrderingExercises(Rng &rng, int exercises);
+std::vector<OrderingExercise> makeOrderingExercises(Random::Source &rng, int exercises);

@@ -189,7 +189,7 @@ void drawExercise(WorksheetPage &page, const QRect &box, int number, const Halve
 
 QByteArray halvesWorksheet(const QString &yearLabel, std::uint32_t seed, QString *error)
 {
-    Rng rng(seed);
+    Random::Source rng(seed);
     const std::vector<HalvesExercise> exercises = makeHalvesExercises(rng, kExercises, kPictureKinds);
 
     WorksheetPage page;

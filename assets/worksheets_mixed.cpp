@@ -144,7 +144,7 @@ int drawSection(WorksheetPage &page, int top, const QString &task, bool toMixed)
 
 QByteArray mixedNumbersWorksheet(const QString &yearLabel, std::uint32_t seed, QString *error)
 {
-    Rng rng(seed);
+    Random::Source rng(seed);
     const std::vector<MixedExercise> toMixed = makeMixedExercises(rng, true, kPerSection);
     const std::vector<MixedExercise> toImproper = makeMixedExercises(rng, false, kPerSection);
 

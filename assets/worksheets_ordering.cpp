@@ -66,7 +66,7 @@ void drawCard(WorksheetPage &page, const QRect &card, int number, const Ordering
 
 QByteArray orderingWorksheet(const QString &yearLabel, std::uint32_t seed, QString *error)
 {
-    Rng rng(seed);
+    Random::Source rng(seed);
     const std::vector<OrderingExercise> exercises = makeOrderingExercises(rng, kColumns * kRows);
 
     WorksheetPage page;

@@ -1,6 +1,8 @@
 #include "module1.h"
 
 #include "activityform.h"
+#include "fractions/fraction.h"
+#include "fractions/numberset.h"
 #include "rewards/grey.h"
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"
@@ -30,7 +32,6 @@ constexpr int kActivityScaleHeight = 6510;
 constexpr int kDefaultQuestions = 20;
 
 constexpr int kPraiseCount = 12;
-constexpr int kDigitsUsually = 3;
 
 QString twoDigits(int n)
 {
@@ -127,20 +128,13 @@ void showreward()
 
 int hcf(int a, int b)
 {
-    for (int i = std::abs(b); i >= 1; --i)
-        if (a % i == 0 && b % i == 0)
-            return i;
-    return 0;
+    // Counting down from |b| finds nothing when b is 0.
+    return b == 0 ? 0 : Fractions::hcf(a, b);
 }
 
 QString randomdecimal(int whole, int places)
 {
-    Random::Randomize();
-    const int digits = (places == 1 || places == 2) ? places : kDigitsUsually;
-    QString text = QString::number(whole) + QLatin1Char('.');
-    for (int i = 0; i < digits; ++i)
-        text += QString::number(static_cast<int>(Random::Rnd() * 9 + 1));
-    return text;
+    return NumberSet::randomDecimal(Random::program(), whole, places);
 }
 
 QString rewardFrameFile(const QString& set, int frame)

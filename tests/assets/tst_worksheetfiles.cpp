@@ -214,7 +214,7 @@ void TestWorksheetFiles::halvesRules()
     // halves as quarters (one more half when the number is odd), and no
     // picture and no count twice in a row.
     for (int seed = 1; seed <= 100; ++seed) {
-        Rng rng(seed);
+        Random::Source rng(seed);
         const int count = 10 + seed % 5;
         const std::vector<HalvesExercise> sheet = makeHalvesExercises(rng, count, 6);
         QCOMPARE(int(sheet.size()), count);

@@ -203,7 +203,7 @@ void Y2fractions::newquestion()
     Timer1->setEnabled(false);
     run().showInstruction();
 
-    question = Halves::drawQuestion(lastset, question.howmany);
+    question = Halves::drawQuestion(Random::program(), lastset, question.howmany);
     lastset = question.set;
     Module1::setname = question.picname();
     Label1->setText(question.instruction());

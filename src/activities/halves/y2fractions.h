@@ -3,7 +3,7 @@
 // pictures, of which the child clicks one half or one quarter, then Check.
 // Practice with hints until a run of right answers opens the certificate;
 // then the Challenge, with no hints, back to the menu when it is won.
-#include "halvesquestion.h"
+#include "fractions/halvesquestion.h"
 #include "shell/activityform.h"
 
 #include <QVector>

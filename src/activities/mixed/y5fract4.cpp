@@ -104,7 +104,7 @@ void y5fract4::newquestion()
 {
     setEnabled(true);
     Random::Randomize();
-    m_question = MixedQuestion::draw();
+    m_question = MixedQuestion::draw(Random::program());
     m_answertext = m_question.answerText();
     if (m_question.direction == MixedQuestion::kToMixed) {
         Label1->setText(QStringLiteral("Change to a mixed number..."));

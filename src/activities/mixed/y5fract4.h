@@ -3,7 +3,7 @@
 // Numbers" (Year 5): each question shows an improper fraction to be typed as
 // a mixed number, or a mixed number to be typed as an improper fraction,
 // one answer box at a time. Practice with hints leads to the Challenge.
-#include "mixedquestion.h"
+#include "fractions/mixedquestion.h"
 #include "shell/activityform.h"
 
 class FormTimer;

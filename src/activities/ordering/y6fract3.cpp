@@ -274,7 +274,7 @@ void Y6fract3::newnumbers()
     showPointers(true);
     Random::Randomize();
     numberkind = NumberSet::kSharedWholePart;
-    if (const auto question = NumberSet::newnumbers(numberkind)) {
+    if (const auto question = NumberSet::newnumbers(Random::program(), numberkind)) {
         wholepart = question->wholepart;
         for (int i = 0; i < NumberSet::kCount; ++i)
             Label10[i]->setText(question->numbers[i]);

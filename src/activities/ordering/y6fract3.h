@@ -3,7 +3,7 @@
 // share a whole part, which the child clicks smallest first into the
 // answer column. The fifth click checks the order; a wrong order is put
 // right before the child's eyes, one number a second.
-#include "numberset.h"
+#include "fractions/numberset.h"
 #include "shell/activityform.h"
 
 #include <QMap>

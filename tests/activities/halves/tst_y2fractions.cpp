@@ -94,7 +94,7 @@ void TestY2fractions::questionDraws()
         int halfQuestions = 0;
         Halves::Question last;
         for (int i = 0; i < 2000; ++i) {
-            const Halves::Question q = Halves::drawQuestion(last.set, last.howmany);
+            const Halves::Question q = Halves::drawQuestion(Random::program(), last.set, last.howmany);
             QVERIFY(q.target * q.parts == q.howmany && q.set != last.set && q.howmany != last.howmany);
             sets << q.set;
             (q.parts == 2 ? halves : quarters) << q.howmany;

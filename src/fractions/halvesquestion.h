@@ -2,6 +2,8 @@
 // One question of Halves and Quarters: a board of identical pictures of
 // which the child picks one half or one quarter. Widget-free, so the draws
 // can be run many times with a fixed random seed.
+#include "runtime/random.h"
+
 #include <QString>
 
 namespace Halves {
@@ -32,9 +34,9 @@ struct Question {
     QString rightAnswer() const;
 };
 
-// Draws the next question through Random: never the set or the number of
+// Draws the next question from rnd: never the set or the number of
 // pictures of the previous one (lastset and lasthowmany; 0 before the first).
-Question drawQuestion(int lastset, int lasthowmany);
+Question drawQuestion(Random::Source& rnd, int lastset, int lasthowmany);
 
 // "You should have clicked on 1 picture" / "... on 3 pictures".
 QString shouldHaveClicked(int target);

@@ -1,5 +1,5 @@
 #include "fractions/decimalvalue.h"
-#include "activities/ordering/numberset.h"
+#include "fractions/numberset.h"
 #include "runtime/random.h"
 
 #include <QLocale>
@@ -83,7 +83,7 @@ void TestNumberSet::setsOverManySeeds()
     std::set<int> wholes, lengths;
     for (quint64 seed = 1; seed <= 1500; ++seed) {
         Random::fixSeed(seed);
-        const auto question = NumberSet::newnumbers(NumberSet::kSharedWholePart);
+        const auto question = NumberSet::newnumbers(Random::program(), NumberSet::kSharedWholePart);
         QVERIFY(question);
         std::set<qint64> values;
         for (const QString& number : question->numbers) {
@@ -98,7 +98,7 @@ void TestNumberSet::setsOverManySeeds()
     }
     QCOMPARE(wholes, (std::set<int>{1, 2, 3, 4, 5}));
     QCOMPARE(lengths, (std::set<int>{1, 2, 3}));
-    QVERIFY(!NumberSet::newnumbers(2));
+    QVERIFY(!NumberSet::newnumbers(Random::program(), 2));
 }
 
 // Replaying the random stream shows what a set with repeats becomes: the
@@ -110,14 +110,14 @@ void TestNumberSet::aSetWithRepeatsIsDrawnAgainWhole()
         Random::fixSeed(seed);
         Random::Randomize();
         const int whole = static_cast<int>(Random::Rnd() * 5 + 1);
-        Texts next = NumberSet::drawFive(whole);
+        Texts next = NumberSet::drawFive(Random::program(), whole);
         if (!NumberSet::hasRepeats(next))
             continue;
         do
-            next = NumberSet::drawFive(whole);
+            next = NumberSet::drawFive(Random::program(), whole);
         while (NumberSet::hasRepeats(next));
         Random::fixSeed(seed);
-        QCOMPARE(NumberSet::newnumbers(NumberSet::kSharedWholePart)->numbers, next);
+        QCOMPARE(NumberSet::newnumbers(Random::program(), NumberSet::kSharedWholePart)->numbers, next);
         ++found;
     }
     QCOMPARE(found, 5);

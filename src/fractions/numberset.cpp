@@ -1,33 +1,41 @@
 #include "numberset.h"
 
-#include "fractions/decimalvalue.h"
-#include "runtime/random.h"
-#include "shell/module1.h"
+#include "decimalvalue.h"
 
 namespace NumberSet {
 
-std::optional<Question> newnumbers(int numberkind)
+std::optional<Question> newnumbers(Random::Source& rnd, int numberkind)
 {
     if (numberkind != kSharedWholePart)
         return std::nullopt;
     Question question;
-    Random::Randomize();
-    question.wholepart = static_cast<int>(Random::Rnd() * kLargestWholePart + 1);
+    rnd.randomize();
+    question.wholepart = static_cast<int>(rnd.rnd() * kLargestWholePart + 1);
     do
-        question.numbers = drawFive(question.wholepart);
+        question.numbers = drawFive(rnd, question.wholepart);
     while (hasRepeats(question.numbers));
     return question;
 }
 
-Texts drawFive(int wholepart)
+Texts drawFive(Random::Source& rnd, int wholepart)
 {
     Texts numbers;
     for (QString& number : numbers) {
-        Random::Randomize();
-        const int places = static_cast<int>(Random::Rnd() * kMostPlaces + 1);
-        number = Module1::randomdecimal(wholepart, places);
+        rnd.randomize();
+        const int places = static_cast<int>(rnd.rnd() * kMostPlaces + 1);
+        number = randomDecimal(rnd, wholepart, places);
     }
     return numbers;
+}
+
+QString randomDecimal(Random::Source& rnd, int whole, int places)
+{
+    rnd.randomize();
+    const int digits = (places == 1 || places == 2) ? places : kMostPlaces;
+    QString text = QString::number(whole) + QLatin1Char('.');
+    for (int i = 0; i < digits; ++i)
+        text += QString::number(static_cast<int>(rnd.rnd() * 9 + 1));
+    return text;
 }
 
 bool hasRepeats(const Texts& texts)

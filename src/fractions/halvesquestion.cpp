@@ -1,6 +1,5 @@
 #include "halvesquestion.h"
 
-#include "runtime/random.h"
 
 namespace Halves {
 
@@ -29,22 +28,22 @@ QString Question::rightAnswer() const
     return QStringLiteral("You chose ") + fractionWord(parts) + QStringLiteral(" of the ") + picname();
 }
 
-Question drawQuestion(int lastset, int lasthowmany)
+Question drawQuestion(Random::Source& rnd, int lastset, int lasthowmany)
 {
     Question q;
-    Random::Randomize();
+    rnd.randomize();
     // A 3 is thrown away rather than mapped, so halves and quarters are
     // equally likely; the same set never comes twice in a row.
     do {
-        q.parts = static_cast<int>(Random::Rnd() * 3 + 2);
-        q.set = static_cast<int>(Random::Rnd() * kSetCount + 1);
+        q.parts = static_cast<int>(rnd.rnd() * 3 + 2);
+        q.set = static_cast<int>(rnd.rnd() * kSetCount + 1);
     } while (q.parts == 3 || q.set == lastset);
 
     // Re-seeded before every draw of the count, which never repeats either.
     int n = 0;
     do {
-        Random::Randomize();
-        n = static_cast<int>(Random::Rnd() * 15 + 2);
+        rnd.randomize();
+        n = static_cast<int>(rnd.rnd() * 15 + 2);
     } while (n % q.parts != 0 || n == lasthowmany);
     q.howmany = n;
     q.target = n / q.parts;

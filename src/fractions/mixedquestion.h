@@ -5,6 +5,10 @@
 #include <QString>
 #include <QtGlobal>
 
+namespace Random {
+class Source;
+}
+
 struct MixedQuestion {
     // 1: an improper fraction is shown and a mixed number is asked for;
     // 2: a mixed number is shown and an improper fraction is asked for.
@@ -36,17 +40,18 @@ struct MixedQuestion {
     QString hintText() const;
     QString productText() const;
 
-    // Draws from the program's random source: first the direction, then the
-    // numbers of that direction (the caller re-seeds before each question).
-    static MixedQuestion draw();
-
+    // Draws from rnd: first the direction, then the numbers of that
+    // direction (the caller re-seeds before each question).
+    static MixedQuestion draw(Random::Source& rnd);
 private:
-    static int drawDirection();
+    static int drawDirection(Random::Source& rnd);
+
+public:
     // Whole 1..5; numerator over denominator a proper fraction in lowest
     // terms; the improper fraction in lowest terms too.
-    static MixedQuestion drawImproper();
+    static MixedQuestion drawImproper(Random::Source& rnd);
     // Whole 1..9; numerator over denominator a proper fraction in lowest terms.
-    static MixedQuestion drawMixed();
+    static MixedQuestion drawMixed(Random::Source& rnd);
 };
 
 // The names of the parts: fractionnames(d) is the plural for denominator d

@@ -1,7 +1,7 @@
 #include "mixedquestion.h"
 
 #include "runtime/random.h"
-#include "shell/module1.h"
+#include "fraction.h"
 
 #include <iterator>
 
@@ -21,14 +21,14 @@ constexpr const char* kFractionNames[] = {
 };
 constexpr int kFractionNameCount = int(std::size(kFractionNames));
 
-qint16 drawUpTo(int largest)
+qint16 drawUpTo(Random::Source& rnd, int largest)
 {
-    return static_cast<qint16>(largest * Random::Rnd() + 1);
+    return static_cast<qint16>(largest * rnd.rnd() + 1);
 }
 
-qint16 drawDenom()
+qint16 drawDenom(Random::Source& rnd)
 {
-    return static_cast<qint16>(kDenomChoices * Random::Rnd() + kSmallestDenom);
+    return static_cast<qint16>(kDenomChoices * rnd.rnd() + kSmallestDenom);
 }
 
 QString num(int n)
@@ -85,37 +85,37 @@ QString MixedQuestion::productText() const
     return num(whole) + QStringLiteral(" x ") + num(denom) + QStringLiteral(" = ") + num(whole * denom);
 }
 
-int MixedQuestion::drawDirection()
+int MixedQuestion::drawDirection(Random::Source& rnd)
 {
-    return static_cast<int>(2 * Random::Rnd() + 1);
+    return static_cast<int>(2 * rnd.rnd() + 1);
 }
 
-MixedQuestion MixedQuestion::draw()
+MixedQuestion MixedQuestion::draw(Random::Source& rnd)
 {
-    return drawDirection() == kToMixed ? drawImproper() : drawMixed();
+    return drawDirection(rnd) == kToMixed ? drawImproper(rnd) : drawMixed(rnd);
 }
 
-MixedQuestion MixedQuestion::drawImproper()
+MixedQuestion MixedQuestion::drawImproper(Random::Source& rnd)
 {
     MixedQuestion q;
     q.direction = kToMixed;
     do {
-        q.whole = drawUpTo(kLargestWholeToMixed);
-        q.numer = drawUpTo(kLargestNumer);
-        q.denom = drawDenom();
-    } while (!(Module1::hcf(q.numer, q.denom) == 1 && Module1::hcf(q.improperNumerator(), q.denom) == 1
+        q.whole = drawUpTo(rnd, kLargestWholeToMixed);
+        q.numer = drawUpTo(rnd, kLargestNumer);
+        q.denom = drawDenom(rnd);
+    } while (!(Fractions::hcf(q.numer, q.denom) == 1 && Fractions::hcf(q.improperNumerator(), q.denom) == 1
                && q.numer <= q.denom));
     return q;
 }
 
-MixedQuestion MixedQuestion::drawMixed()
+MixedQuestion MixedQuestion::drawMixed(Random::Source& rnd)
 {
     MixedQuestion q;
     q.direction = kToImproper;
     do {
-        q.whole = drawUpTo(kLargestWholeToImproper);
-        q.numer = drawUpTo(kLargestNumer);
-        q.denom = drawDenom();
-    } while (!(Module1::hcf(q.numer, q.denom) == 1 && q.numer <= q.denom));
+        q.whole = drawUpTo(rnd, kLargestWholeToImproper);
+        q.numer = drawUpTo(rnd, kLargestNumer);
+        q.denom = drawDenom(rnd);
+    } while (!(Fractions::hcf(q.numer, q.denom) == 1 && q.numer <= q.denom));
     return q;
 }

@@ -4,6 +4,8 @@
 // goes, what Undo takes back, whether the child's order is right, and the
 // correct order that is revealed after a wrong one). Captions are compared
 // by value (see DecimalValue).
+#include "runtime/random.h"
+
 #include <QString>
 #include <array>
 #include <optional>
@@ -27,9 +29,14 @@ struct Question {
 // on its own; a set with two equal values is drawn again whole. The random
 // generator is re-seeded before every draw. A kind other than
 // kSharedWholePart makes no question.
-std::optional<Question> newnumbers(int numberkind);
+std::optional<Question> newnumbers(Random::Source& rnd, int numberkind);
 // One draw of five numbers for a whole part, repeats and all.
-Texts drawFive(int wholepart);
+Texts drawFive(Random::Source& rnd, int wholepart);
+
+// The text of a decimal with that whole part and places (1, 2, or 3 for any
+// other value) whose every digit after the point is 1..9, so no number ends
+// in 0. The source is re-seeded first.
+QString randomDecimal(Random::Source& rnd, int whole, int places);
 
 // Whether two of the texts have the same value.
 bool hasRepeats(const Texts& texts);

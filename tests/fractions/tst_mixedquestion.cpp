@@ -1,4 +1,4 @@
-#include "activities/mixed/mixedquestion.h"
+#include "fractions/mixedquestion.h"
 #include "runtime/random.h"
 #include "shell/module1.h"
 
@@ -23,7 +23,7 @@ void TestMixedQuestion::drawsOverManySeeds()
     QSet<int> tenths;
     for (quint64 seed = 1; seed <= 6000; ++seed) {
         Random::fixSeed(seed);
-        const MixedQuestion q = MixedQuestion::draw();
+        const MixedQuestion q = MixedQuestion::draw(Random::program());
         const int d = q.direction;
         QVERIFY(d == MixedQuestion::kToMixed || d == MixedQuestion::kToImproper);
         QVERIFY2(q.whole >= 1 && q.numer >= 1 && q.numer < q.denom && q.denom <= 10, qPrintable(q.answerText()));
