@@ -16,9 +16,25 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QWidget>
+#include <QWindow>
 #include <memory>
 
+// The window system's own way of delivering a close: Qt exports it for
+// platform plugins; declared here so a test can press a window's close box.
+class QWindowSystemInterface {
+public:
+    struct SynchronousDelivery;
+    template <typename Delivery> static bool handleCloseEvent(QWindow* window);
+};
+
 namespace TestSupport {
+
+// Presses the window's close box, as the window system does.
+inline void pressCloseBox(QWidget* form)
+{
+    form->winId(); // the window must exist
+    QWindowSystemInterface::handleCloseEvent<QWindowSystemInterface::SynchronousDelivery>(form->windowHandle());
+}
 
 // Deletes the screens that were unloaded (they go at the end of an event).
 inline void flushUnloads()
