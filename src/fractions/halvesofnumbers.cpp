@@ -1,0 +1,82 @@
+#include "halvesofnumbers.h"
+
+#include "fraction.h"
+#include "halvesquestion.h"
+#include "runtime/random.h"
+
+#include <QCoreApplication>
+#include <iterator>
+
+namespace HalvesOfNumbers {
+
+namespace {
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("HalvesOfNumbers", text);
+}
+
+QString capitalised(QString text)
+{
+    if (!text.isEmpty())
+        text[0] = text[0].toUpper();
+    return text;
+}
+
+struct Asked {
+    int top;
+    int bottom;
+};
+constexpr Asked kAsked[] = {{1, 2}, {1, 4}, {2, 4}, {3, 4}};
+} // namespace
+
+QString Question::instruction() const
+{
+    return tr("What is %1 of %2?").arg(Fractions::words(top, bottom)).arg(amount);
+}
+
+QString Question::statement() const
+{
+    return tr("%1 of %2 is %3.").arg(capitalised(Fractions::words(top, bottom))).arg(amount).arg(answer());
+}
+
+Question draw(Random::Source& rnd, const Question* last)
+{
+    Question q;
+    do {
+        const Asked asked = kAsked[rnd.below(int(std::size(kAsked)))];
+        q.top = asked.top;
+        q.bottom = asked.bottom;
+        // A multiple of the bottom from the bottom up to 20.
+        q.amount = q.bottom * rnd.between(1, kLargestAmount / q.bottom);
+    } while (last && q == *last);
+    do
+        q.set = rnd.between(1, Halves::kSetCount);
+    while (last && q.set == last->set);
+    return q;
+}
+
+Verdict check(const Question& q, const QString& typed)
+{
+    bool isNumber = false;
+    const int value = typed.toInt(&isNumber);
+    if (typed.isEmpty() || !isNumber)
+        return Verdict::notCheckable(tr("Type your answer in the box first!"));
+    if (value == 0)
+        return Verdict::notCheckable(tr("0 is not the answer: look at the pictures again."));
+    return value == q.answer() ? Verdict::right(q.statement()) : Verdict::wrong(q.statement());
+}
+
+QString hint(const Question& q, const QString& picname)
+{
+    const int each = q.amount / q.bottom;
+    const QString share = tr("Share the %1 %2 into %3 equal groups: %4 in each group.")
+                              .arg(q.amount)
+                              .arg(picname)
+                              .arg(q.bottom)
+                              .arg(each);
+    const QString groups = q.top == 1 ? tr("%1 is 1 group: %2 %3.") : tr("%1 is %4 groups: %2 %3.");
+    return share + QLatin1Char(' ')
+        + groups.arg(capitalised(Fractions::words(q.top, q.bottom))).arg(q.answer()).arg(picname).arg(q.top);
+}
+
+} // namespace HalvesOfNumbers

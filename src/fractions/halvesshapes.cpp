@@ -1,0 +1,93 @@
+#include "halvesshapes.h"
+
+#include "fraction.h"
+#include "runtime/random.h"
+
+#include <QCoreApplication>
+#include <iterator>
+
+namespace HalvesShapes {
+
+namespace {
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("HalvesShapes", text);
+}
+
+QString capitalised(QString text)
+{
+    if (!text.isEmpty())
+        text[0] = text[0].toUpper();
+    return text;
+}
+
+// "1 part", "3 parts"
+QString partCount(int n)
+{
+    return n == 1 ? tr("1 part") : tr("%1 parts").arg(n);
+}
+
+// The fractions a 4-part shape may ask for, as top over bottom.
+struct Asked {
+    int top;
+    int bottom;
+};
+constexpr Asked kOfFour[] = {{1, 4}, {2, 4}, {3, 4}, {1, 2}};
+} // namespace
+
+QString Question::fractionWords() const
+{
+    return Fractions::words(top, bottom);
+}
+
+QString Question::instruction() const
+{
+    return tr("Colour %1 of the %2.").arg(fractionWords(), shapeNoun(kind));
+}
+
+Question draw(Random::Source& rnd, const Question* last)
+{
+    Question q;
+    do {
+        const Cut cut = kCuts[rnd.below(int(std::size(kCuts)))];
+        q.kind = cut.kind;
+        q.parts = cut.parts;
+        if (cut.parts == 2) {
+            q.top = 1;
+            q.bottom = 2;
+        } else {
+            const Asked asked = kOfFour[rnd.below(int(std::size(kOfFour)))];
+            q.top = asked.top;
+            q.bottom = asked.bottom;
+        }
+    } while (last && q == *last);
+    return q;
+}
+
+Verdict check(const Question& q, int coloured)
+{
+    if (coloured <= 0)
+        return Verdict::notCheckable(tr("You must colour some parts!"));
+    const QString noun = shapeNoun(q.kind);
+    if (Fractions::Fraction(coloured, q.parts) == Fractions::Fraction(q.top, q.bottom)) {
+        QString said = tr("You coloured %1 of the %2.").arg(q.fractionWords(), noun);
+        if (q.parts == 4 && q.bottom == 2)
+            said += QLatin1Char(' ') + tr("Two quarters is the same as one half.");
+        return Verdict::right(said);
+    }
+    return Verdict::wrong(tr("You coloured %1 of the %2 parts: that is %3. %4 is %5.")
+                              .arg(coloured)
+                              .arg(q.parts)
+                              .arg(Fractions::words(coloured, q.parts), capitalised(q.fractionWords()),
+                                   partCount(q.partsToColour())));
+}
+
+QString hint(const Question& q, int coloured)
+{
+    const QString cut = tr("The %1 is cut into %2 equal parts.").arg(shapeNoun(q.kind)).arg(q.parts);
+    const QString asked = tr("%1 is %2 of them.").arg(capitalised(q.fractionWords())).arg(q.partsToColour());
+    const QString now = coloured == 0 ? tr("You have not coloured any yet.") : tr("You have coloured %1.").arg(coloured);
+    return cut + QLatin1Char(' ') + asked + QLatin1Char(' ') + now;
+}
+
+} // namespace HalvesShapes
