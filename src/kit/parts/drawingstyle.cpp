@@ -1,7 +1,5 @@
 #include "drawingstyle.h"
 
-#include "shell/module1.h"
-
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QStringList>
@@ -9,8 +7,6 @@
 
 namespace DrawingStyle {
 
-const QColor kBoard = Module1::kPanelPaper;
-const QColor kInk = Module1::kPanelInk;
 const QColor kEmpty{255, 255, 255};
 
 namespace {

@@ -3,18 +3,22 @@
 // blue ink, strong outlines, a small cheerful palette, and digits in bold
 // Arial that grow with the space they are given. Everything is measured from
 // the widget's own size, so a drawing is as sharp at twice the size.
+#include "shell/module1.h"
+
 #include <QColor>
 #include <QFont>
 #include <QRectF>
 #include <QString>
+#include <QStringList>
 
 class QPainter;
 
 namespace DrawingStyle {
 
-// The board behind a drawing and the ink of its lines and digits.
-extern const QColor kBoard;
-extern const QColor kInk;
+// The board behind a drawing and the ink of its lines and digits: the
+// program's cream panel and its dark blue.
+inline const QColor& kBoard = Module1::kPanelPaper;
+inline const QColor& kInk = Module1::kPanelInk;
 // Plain boxes and bricks that are not shaded.
 extern const QColor kEmpty;
 

@@ -26,9 +26,11 @@ constexpr QSize kSmallestSize{140, 60};
 // A row as a screen reader says it: "a row of 8 eighths, 4 shaded".
 QString rowWords(const FractionWall::Row& row)
 {
-    const QString bricks = row.bottom == 1 ? QStringLiteral("1 whole")
-                                           : QStringLiteral("%1 %2").arg(row.bottom).arg(Fractions::partsName(row.bottom));
-    const QString shaded = row.shaded == 0 ? QStringLiteral("none shaded") : QStringLiteral("%1 shaded").arg(row.shaded);
+    const QString bricks = row.bottom == 1
+        ? QStringLiteral("1 whole")
+        : QStringLiteral("%1 %2").arg(row.bottom).arg(Fractions::partsName(row.bottom));
+    const QString shaded = row.shaded == 0 ? QStringLiteral("none shaded")
+                                           : QStringLiteral("%1 shaded").arg(row.shaded);
     return QStringLiteral("a row of ") + bricks + QStringLiteral(", ") + shaded;
 }
 } // namespace

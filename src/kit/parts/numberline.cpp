@@ -247,6 +247,10 @@ void NumberLine::paintEvent(QPaintEvent*)
 
 void NumberLine::describe()
 {
+    if (m_from.isEmpty() || m_to.isEmpty()) {
+        setAccessibleName(QStringLiteral("a number line"));
+        return;
+    }
     QString text = QStringLiteral("a number line from %1 to %2").arg(m_from, m_to);
     if (!m_toRound.isEmpty())
         text += QStringLiteral(", %1 to round").arg(m_toRound);
