@@ -188,5 +188,3 @@ QPainterPath shapeOutline(ShapeKind kind, int parts, const QRectF& box)
         outline.addRect(frame);
     return outline;
 }
-
-}
