@@ -1,6 +1,7 @@
 #include "activitytable.h"
 
 #include "activities/halves/y2fractions.h"
+#include "activities/halvesshapes/y2fractions2.h"
 #include "activities/mixed/y5fract4.h"
 #include "activities/ordering/y6fract3.h"
 #include "runtime/forms.h"
@@ -30,7 +31,7 @@ const QVector<Row>& all()
     // menu, button, title, screen, prompt, screen maker, designed worksheet
     static const QVector<Row> rows{
         {"y2Intro", "Command5", "Halves and Quarters 1", "Y2fractions", kEither, make<Y2fractions>, "y2fracprint1"},
-        {"y2Intro", "Command2", "Halves and Quarters 2", "Y2fractions2", kEither},
+        {"y2Intro", "Command2", "Halves and Quarters 2", "Y2fractions2", kEither, make<Y2fractions2>},
         {"y2Intro", "Command3", "Halves and Quarters 3", "Y2fractions3", kShort},
 
         {"y3Intro", "Command2", "Halves, Quarters, Thirds and Tenths 1", "y3fract1", kEither},
