@@ -34,7 +34,10 @@ constexpr int kColumnWidth = 3420;
 constexpr int kInstructionTop = 1230;
 constexpr int kInstructionHeight = 600;
 constexpr int kPanelTop = 1890;
-constexpr int kPanelHeight = 3450;
+constexpr int kPanelHeight = 2880;
+// The run's length stays in sight under the question, all run long.
+constexpr int kOptionsTop = kPanelTop + kPanelHeight + 60;
+constexpr int kOptionsHeight = 540;
 // Under the ready message, which stands at Left 4035, Width 4860.
 constexpr int kPictureLeft = 4305;
 constexpr int kPictureTop = 1200;
@@ -154,15 +157,15 @@ void y5fract4::buildBoard()
                    QStringLiteral("Aim to get 10 or 20 questions correct to gain a certifcate."),
                    Twips::font(kSerif, 13, false), kPanelInk, Qt::AlignCenter);
     Twips::place(Label6, 240, 1440, openingInside, 720);
-    Frame1 = panel(Picture1, "Frame1", (kOpeningWidth - 2400) / 2, 2220, 2400, 900, kPanelPaper);
+    Frame1 = panel(this, "Frame1", kColumnLeft, kOptionsTop, kColumnWidth, kOptionsHeight, kPanelPaper);
     for (QRadioButton* option : {Option1, Option2}) {
         option->setParent(Frame1);
-        option->setFont(Twips::font(QStringLiteral("Arial"), 11, true));
+        option->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
         setInk(option, kPanelInk, kPanelPaper);
         setControlBackColour(option, kPanelPaper);
     }
-    Twips::place(Option1, 360, 60, 1920, 360);
-    Twips::place(Option2, 360, 480, 1920, 360);
+    Twips::place(Option1, 120, 90, 1620, 360);
+    Twips::place(Option2, 1800, 90, 1620, 360);
     Label3 = label(Picture1, "Label3", QStringLiteral("Good Luck."), Twips::font(kSerif, 16, true), kPanelInk,
                    Qt::AlignCenter);
     Twips::place(Label3, 240, 3240, openingInside, 540);

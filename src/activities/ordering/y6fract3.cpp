@@ -73,6 +73,7 @@ constexpr int kLeftColumn = 120;
 constexpr int kMessageLeft = 4380;
 constexpr int kMessageWidth = Form::kScreenScaleWidthTwips - kMessageLeft - 60;
 constexpr int kLeftColumnWidth = 3600;
+constexpr int kOptionsLeft = 5580;
 } // namespace
 
 Y6fract3::Y6fract3()
@@ -207,18 +208,19 @@ void Y6fract3::buildOpeningPanel()
                        QStringLiteral("Aim to get 10 or 20 questions correct to gain a certificate."), 14, Qt::white);
     Twips::place(Label6, 480, 1140, kPanelWidth - 960, 1260);
 
-    Frame2 = new QFrame(Picture1);
+    // The run's length stays in sight all run long, under the answer column.
+    Frame2 = new QFrame(this);
     Frame2->setObjectName(QStringLiteral("Frame2"));
-    Twips::place(Frame2, 1240, 2640, 4400, 720);
+    Twips::place(Frame2, kOptionsLeft, kFrameTop + 4800, 3840, 540);
     for (QRadioButton* option : {Option1, Option2}) {
         option->setParent(Frame2);
-        option->setFont(Twips::font(kWords, 13, true));
+        option->setFont(Twips::font(kWords, 12, true));
         QPalette palette = option->palette();
         palette.setColor(QPalette::WindowText, Qt::white);
         option->setPalette(palette);
     }
-    Twips::place(Option1, 240, 120, 1960, 480);
-    Twips::place(Option2, 2260, 120, 1960, 480);
+    Twips::place(Option1, 60, 30, 1860, 480);
+    Twips::place(Option2, 1920, 30, 1860, 480);
 }
 
 NumberSet::Texts Y6fract3::numbers() const
