@@ -1,6 +1,6 @@
 #include "y5fract4.h"
 
-#include "answerbox.h"
+#include "kit/parts/answerbox.h"
 #include "rewards/grey.h"
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"

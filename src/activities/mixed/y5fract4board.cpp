@@ -2,9 +2,9 @@
 // question column on the left (instruction, the panel with the fraction,
 // the answer boxes), the reward picture on the right, the band for the
 // typing instruction and the hint along the bottom, and the opening panel.
-#include "answerbox.h"
 #include "y5fract4.h"
 
+#include "kit/parts/answerbox.h"
 #include "runtime/formtimer.h"
 #include "runtime/picturebox.h"
 #include "runtime/twips.h"
@@ -71,6 +71,10 @@ constexpr int kFirstColumn = 150;
 // closer to its fraction.
 constexpr int kColumnGap = 120;
 constexpr int kWholeGap = 60;
+
+// Every right answer has at most two digits (99 is the largest). Two digits
+// also keep a typed value far inside 16-bit numbers.
+constexpr AnswerBox::Options kBoxOptions{AnswerBox::kTwoDigits, false};
 
 void setInk(QWidget* control, const QColor& ink, const QColor& back)
 {
@@ -216,19 +220,20 @@ void y5fract4::buildBoard()
     Picture3->hide();
 
     // Each answer box lies over the label that replaces it.
-    auto box = [&](QWidget* parent, const char* name, QLabel* under, void (y5fract4::*handler)(int&)) {
-        QLineEdit* b = AnswerBox::make(parent, QString::fromLatin1(name), numbers,
-                                       [this, handler](int& keyAscii) { (this->*handler)(keyAscii); });
+    auto box = [&](QWidget* parent, const char* name, const char* spoken, QLabel* under,
+                   void (y5fract4::*handler)(int&)) {
+        QLineEdit* b = AnswerBox::make(parent, QString::fromLatin1(name), QString::fromLatin1(spoken), numbers,
+                                       kBoxOptions, [this, handler](int& keyAscii) { (this->*handler)(keyAscii); });
         b->setStyleSheet(boxStyle());
         b->setGeometry(under->geometry());
         b->raise();
         return b;
     };
-    Text1 = box(Picture2, "Text1", Label12, &y5fract4::Text1_KeyPress);
-    Text4 = box(Picture2, "Text4", Label8, &y5fract4::Text4_KeyPress);
-    Text2 = box(Picture2, "Text2", Label10, &y5fract4::Text2_KeyPress);
-    Text3 = box(Picture3, "Text3", Label17, &y5fract4::Text3_KeyPress);
-    Text5 = box(Picture3, "Text5", Label14, &y5fract4::Text5_KeyPress);
+    Text1 = box(Picture2, "Text1", "whole number", Label12, &y5fract4::Text1_KeyPress);
+    Text4 = box(Picture2, "Text4", "top number", Label8, &y5fract4::Text4_KeyPress);
+    Text2 = box(Picture2, "Text2", "bottom number", Label10, &y5fract4::Text2_KeyPress);
+    Text3 = box(Picture3, "Text3", "top number", Label17, &y5fract4::Text3_KeyPress);
+    Text5 = box(Picture3, "Text5", "bottom number", Label14, &y5fract4::Text5_KeyPress);
 
     // The band along the bottom: typing instruction or hint, and the product.
     Frame2 = panel(this, "Frame2", kColumnLeft, kBandTop, kBandWidth, kBandHeight, kActivityBack);
