@@ -1,6 +1,7 @@
 #include "activitytable.h"
 
 #include "activities/halves/y2fractions.h"
+#include "activities/halvesnumbers/y2fractions3.h"
 #include "activities/halvesshapes/y2fractions2.h"
 #include "activities/mixed/y5fract4.h"
 #include "activities/ordering/y6fract3.h"
@@ -32,7 +33,7 @@ const QVector<Row>& all()
     static const QVector<Row> rows{
         {"y2Intro", "Command5", "Halves and Quarters 1", "Y2fractions", kEither, make<Y2fractions>, "y2fracprint1"},
         {"y2Intro", "Command2", "Halves and Quarters 2", "Y2fractions2", kEither, make<Y2fractions2>},
-        {"y2Intro", "Command3", "Halves and Quarters 3", "Y2fractions3", kShort},
+        {"y2Intro", "Command3", "Halves and Quarters 3", "Y2fractions3", kShort, make<Y2fractions3>},
 
         {"y3Intro", "Command2", "Halves, Quarters, Thirds and Tenths 1", "y3fract1", kEither},
         {"y3Intro", "Command3", "Halves, Quarters, Thirds and Tenths 2", "y3fract2", kEither},

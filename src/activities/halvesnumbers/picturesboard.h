@@ -1,0 +1,37 @@
+#pragma once
+// Halves and Quarters 3's board: the amount as rows of pictures from the
+// Halves and Quarters sets, and one box for the answer. The hint regroups
+// the pictures into equal groups, each in its own colour.
+#include "fractions/halvesofnumbers.h"
+#include "kit/kitboard.h"
+
+class AnswerChain;
+class PictureRows;
+class QLineEdit;
+
+class PicturesBoard : public KitBoard {
+    Q_OBJECT
+public:
+    explicit PicturesBoard(QWidget* parent = nullptr);
+
+    PictureRows* Picture2; // the amount, as pictures
+    QLineEdit* Text1;      // the answer
+    const HalvesOfNumbers::Question& question() const { return m_question; }
+
+    void pose(Random::Source& rnd) override;
+    QString instruction() const override;
+    Verdict check() override;
+    QString hint() override;
+    void setAnswering(bool on) override;
+    void focusAnswer() override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QString picname() const;
+
+    AnswerChain* m_chain;
+    HalvesOfNumbers::Question m_question;
+    bool m_asked = false;
+};
