@@ -236,6 +236,11 @@ void KitScreen::cmdexit_Click()
     run().exit();
 }
 
+QRect KitScreen::boardArea() const
+{
+    return Frame2->geometry();
+}
+
 void KitScreen::clearBoardAtEnd()
 {
     Frame2->hide();

@@ -39,6 +39,7 @@ public:
     static constexpr int kTimer3Ms = 3000;
 
     void clearBoardAtEnd() override;
+    QRect boardArea() const override;
 
 public slots:
     void Form_Load();

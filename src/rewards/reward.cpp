@@ -1,13 +1,17 @@
 #include "reward.h"
 
 #include "runtime/formtimer.h"
+#include "shell/activityform.h"
 #include "runtime/forms.h"
 #include "runtime/picturebox.h"
 #include "runtime/random.h"
 #include "runtime/twips.h"
 #include "shell/module1.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QPushButton>
+#include <algorithm>
 
 namespace {
 // Where the panel stands inside a centred activity screen, in twips.
@@ -64,6 +68,7 @@ void Reward::Form_Load()
     const int top = (display.height() - kScreenHeightTwips) / 2 + kOffsetTop;
     const int left = (display.width() - kScreenWidthTwips) / 2 + kOffsetLeft;
     moveTo(display.x() + left, display.y() + top);
+    placeOverTheBoard();
     setBackColour(kActivityBack);
 
     const bool message = retry == 1;
@@ -73,6 +78,27 @@ void Reward::Form_Load()
     Label1->setVisible(message);
     Label2->setVisible(message);
     retry = 0;
+}
+
+void Reward::placeOverTheBoard()
+{
+    // The activity on screen, if any: the panel stands over its board, below
+    // its buttons and inside its window, so the buttons stay whole and the
+    // reward picture in sight.
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+        auto* activity = qobject_cast<ActivityForm*>(w);
+        if (!activity || !activity->isVisible())
+            continue;
+        const QRect board(activity->mapToGlobal(activity->boardArea().topLeft()), activity->boardArea().size());
+        const QRect window(activity->mapToGlobal(QPoint(0, 0)), activity->size());
+        const int buttonsBottom = activity->cmdstart->mapToGlobal(QPoint(0, activity->cmdstart->height())).y();
+        QRect panel(QPoint(0, 0), size());
+        panel.moveCenter(board.center());
+        panel.moveLeft(std::clamp(panel.left(), window.left(), std::max(window.left(), window.right() - panel.width())));
+        panel.moveTop(std::clamp(panel.top(), buttonsBottom + 1, std::max(buttonsBottom + 1, window.bottom() - panel.height())));
+        move(panel.topLeft());
+        return;
+    }
 }
 
 void Reward::Timer1_Timer()

@@ -31,6 +31,9 @@ public:
     static constexpr int kStarSeries = 4;
     static constexpr int kFramesPerSeries = 20;
 
+    // Over the board of the activity on screen, when there is one.
+    void placeOverTheBoard();
+
 public slots:
     void Form_Load();
     void Timer1_Timer();

@@ -36,6 +36,11 @@ public:
     // the way back to the menu.
     virtual void clearBoardAtEnd() {}
 
+    // Where the question stands, in the screen's own coordinates: the stars
+    // and the retry message play over it, clear of the buttons and of the
+    // reward picture.
+    virtual QRect boardArea() const { return rect(); }
+
     // The buttons' pictures and the screen's icon, as every activity loads
     // them.
     void loadButtonPictures();

@@ -2,9 +2,11 @@
 #include "rewards/reward.h"
 #include "runtime/formtimer.h"
 #include "runtime/picturebox.h"
+#include "shell/activityform.h"
 #include "testsupport.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QtTest>
 
 using namespace Module1;
@@ -18,6 +20,8 @@ private slots:
     void starsPlayFiftyFramesEitherWay();
     void theRetryMessageNeverPlaysStars();
     void theRetryPanelSitsOverTheActivity();
+    void thePanelStandsOverTheBoard_data();
+    void thePanelStandsOverTheBoard();
 
 private:
     TestSupport::World world;
@@ -112,6 +116,52 @@ void TestReward::theRetryPanelSitsOverTheActivity()
     QCOMPARE(reward->pos(), QPoint(left / 15, top / 15));
     QVERIFY(reward->windowFlags() & Qt::FramelessWindowHint);
     QCOMPARE(reward->backColour(), QColor(48, 133, 214));
+}
+
+void TestReward::thePanelStandsOverTheBoard_data()
+{
+    QTest::addColumn<QString>("menu");
+    QTest::addColumn<QString>("button");
+    QTest::newRow("Halves and Quarters 1") << "y2Intro" << "Command5";
+    QTest::newRow("Halves and Quarters 2") << "y2Intro" << "Command2";
+    QTest::newRow("mixed numbers") << "y5Intro2" << "Command1";
+    QTest::newRow("Place In Order") << "y6Intro" << "Command1";
+    QTest::newRow("Halves and Quarters 3") << "y2Intro" << "Command3";
+}
+
+// Over an activity the stars and the retry message stand over its board:
+// every button stays whole and most of the reward picture stays in sight,
+// whichever picture set stands there.
+void TestReward::thePanelStandsOverTheBoard()
+{
+    QFETCH(QString, menu);
+    QFETCH(QString, button);
+    Forms::show(menu)->findChild<QPushButton*>(button)->click();
+    TestSupport::flushUnloads();
+    ActivityForm* activity = nullptr;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (auto* a = qobject_cast<ActivityForm*>(w); a && a->isVisible())
+            activity = a;
+    QVERIFY(activity);
+    activity->cmdstart->click();
+    auto global = [](const QWidget* w) { return QRect(w->mapToGlobal(QPoint(0, 0)), w->size()); };
+    for (const char* set : {"solita", "cake"}) {
+        picset = QString::fromLatin1(set);
+        activity->Image2->load(rewardFrameFile(picset, 20));
+        activity->Image2->move(activity->Image2->x(), set == QLatin1String("cake") ? 40 : 80);
+        activity->Image2->show();
+        for (int message : {0, 1}) {
+            retry = message;
+            Forms::unload("Reward");
+            const QRect panel = global(Forms::show<Reward>());
+            QVERIFY(global(activity).contains(panel));
+            for (QPushButton* b : {activity->cmdprint, activity->cmdstart, activity->cmdcheck, activity->cmdhint, activity->cmdexit})
+                QVERIFY2(!global(b).intersects(panel), qPrintable(b->objectName()));
+            const QRect picture = global(activity->Image2);
+            const QRect covered = picture.intersected(panel);
+            QVERIFY2(covered.width() * covered.height() * 4 <= picture.width() * picture.height(), set);
+        }
+    }
 }
 
 QTEST_MAIN(TestReward)

@@ -239,6 +239,11 @@ void Y2fractions::cmdcheck_Click()
         run().wrong(Halves::shouldHaveClicked(question.target), Timer3);
 }
 
+QRect Y2fractions::boardArea() const
+{
+    return Frame2->geometry();
+}
+
 void Y2fractions::clearBoardAtEnd()
 {
     for (PictureCell* cell : Image1)

@@ -42,6 +42,7 @@ public:
     int selectedCount() const;
 
     void clearBoardAtEnd() override;
+    QRect boardArea() const override;
 
     static constexpr int kTimer1Ms = 2500;
     static constexpr int kTimer2Ms = 1000;

@@ -217,6 +217,11 @@ void y5fract4::cmdcheck_Click()
         run().wrong(QStringLiteral("Incorrect! ") + m_answertext, Timer3);
 }
 
+QRect y5fract4::boardArea() const
+{
+    return Picture2->geometry().united(Frame1->geometry());
+}
+
 void y5fract4::clearBoardAtEnd()
 {
     Label5->hide();

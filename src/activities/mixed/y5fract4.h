@@ -76,6 +76,7 @@ public:
     QString answertext() const { return m_answertext; }
 
     void clearBoardAtEnd() override;
+    QRect boardArea() const override;
 
 public slots:
     void Form_Load();

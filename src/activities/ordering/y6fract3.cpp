@@ -383,6 +383,12 @@ void Y6fract3::cmdcheck_Click()
     showorder();
 }
 
+QRect Y6fract3::boardArea() const
+{
+    // The numbers, the arrows and the answer column.
+    return Label10.first()->geometry().united(Label11.last()->geometry()).translated(Frame1->pos());
+}
+
 void Y6fract3::clearBoardAtEnd()
 {
     for (int i = 0; i < NumberSet::kCount; ++i) {

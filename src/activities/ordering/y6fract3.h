@@ -73,6 +73,7 @@ public:
     QPushButton* focusAfterPrint() const;
 
     void clearBoardAtEnd() override;
+    QRect boardArea() const override;
 
     // A typed-key filter kept for a typed-entry board: Tab or Enter locks a
     // filled entry and checks; only digits, ".", "-" and backspace pass.
