@@ -95,7 +95,10 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
         auto* button = new QPushButton(this);
         button->setObjectName(QString::fromLatin1(activity.button));
         button->setIconSize(QSize(28, 28));
+        // The arrow shows no words; the activity's title is its tip and
+        // the name a screen reader speaks.
         button->setToolTip(QString::fromLatin1(activity.title));
+        button->setAccessibleName(button->toolTip());
         Twips::place(button, kButtonLeft, top + (pitch - kButtonHeight) / 2, kButtonWidth, kButtonHeight);
         connect(button, &QPushButton::clicked, this, [this, &activity] { open(activity); });
         buttons.append(button);

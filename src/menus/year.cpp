@@ -44,6 +44,12 @@ constexpr int kYearButtonHeight = 720;
 constexpr int kFrameLeft = 5400;
 constexpr int kFrameWidth = 2400;
 
+// What a year button stands for in the edition in use: "Year 2" or "Unit 1".
+QString editionLabel(const Year::Choice& choice)
+{
+    return QString::fromLatin1(Module1::version == QLatin1String("1") ? choice.unitLabel : choice.yearLabel);
+}
+
 QPushButton* arrowButton(QWidget* parent, const char* name)
 {
     auto* b = new QPushButton(parent);
@@ -96,6 +102,8 @@ Year::Year()
     Label3->setCursor(Qt::PointingHandCursor);
     Label3->setToolTip(QStringLiteral("Visit our web site"));
     Twips::place(Label3, kLeftColumn, 4920, 3000, 300);
+    Check1->setObjectName(QStringLiteral("Check1"));
+    Check1->setAccessibleName(Check1->text().trimmed());
     Check1->setChecked(true);
     Check1->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
     Check1->setStyleSheet(QStringLiteral("color: white;"));
@@ -110,7 +118,6 @@ Year::Year()
         const int top = kRowTop + i * kRowPitch;
         QPushButton* button = findChild<QPushButton*>(QString::fromLatin1(kChoices[i].button));
         Twips::place(button, kYearButtonLeft, top, kYearButtonWidth, kYearButtonHeight);
-        button->setToolTip(QString::fromLatin1(kChoices[i].yearLabel));
         const Choice& choice = kChoices[i];
         connect(button, &QPushButton::clicked, this, [this, &choice] { choose(choice); });
 
@@ -123,6 +130,7 @@ Year::Year()
     }
 
     Command4->setToolTip(QStringLiteral("Back to the start"));
+    Command4->setAccessibleName(Command4->toolTip());
     Twips::place(Command4, 8160, 5520, 1080, 840);
 
     connect(Command4, &QPushButton::clicked, this, &Year::Command4_Click);
@@ -151,9 +159,14 @@ void Year::Form_Load()
     }
     if (Module1::soundoption == 0)
         Check1->setChecked(false);
-    for (const Choice& choice : kChoices)
-        setButtonPicture(findChild<QPushButton*>(QString::fromLatin1(choice.button)),
-                         QStringLiteral("ico\\arw05rt.ico"));
+    for (const Choice& choice : kChoices) {
+        // The arrow shows no words: its tip and its spoken name say which
+        // year (or unit) it opens.
+        QPushButton* button = findChild<QPushButton*>(QString::fromLatin1(choice.button));
+        button->setToolTip(editionLabel(choice));
+        button->setAccessibleName(editionLabel(choice));
+        setButtonPicture(button, QStringLiteral("ico\\arw05rt.ico"));
+    }
     setButtonPicture(Command4, QStringLiteral("ico\\door2.ico"));
     Picture2->load(Logo::bitmapFile(Logo::Frames::Large));
     Timer4->setEnabled(true);
@@ -162,8 +175,7 @@ void Year::Form_Load()
 
 void Year::choose(const Choice& choice)
 {
-    Module1::yearlabel = QString::fromLatin1(Module1::version == QLatin1String("1") ? choice.unitLabel
-                                                                                    : choice.yearLabel);
+    Module1::yearlabel = editionLabel(choice);
     Module1::streak = choice.streak;
     Forms::showAndUnload(QString::fromLatin1(choice.menu), this);
 }

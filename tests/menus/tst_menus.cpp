@@ -150,6 +150,7 @@ void TestMenus::activityButtons()
     Forms::show(menu);
     QCOMPARE(Forms::find(menu)->findChild<QLabel*>(QStringLiteral("Label12(%1)").arg(r.index))->text(),
              QString::fromLatin1(r.title));
+    QCOMPARE(button(menu, QString::fromLatin1(r.button))->accessibleName(), QString::fromLatin1(r.title));
     button(menu, QString::fromLatin1(r.button))->click();
     TestSupport::flushUnloads();
     QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("Comingsoon")});

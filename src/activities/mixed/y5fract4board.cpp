@@ -213,19 +213,22 @@ void y5fract4::buildBoard()
     Picture3->hide();
 
     // Each answer box lies over the label that replaces it.
-    auto box = [&](QWidget* parent, const char* name, QLabel* under, void (y5fract4::*handler)(int&)) {
+    // Each is named for the number it holds, as a screen reader says it.
+    auto box = [&](QWidget* parent, const char* name, const char* spoken, QLabel* under,
+                   void (y5fract4::*handler)(int&)) {
         QLineEdit* b = AnswerBox::make(parent, QString::fromLatin1(name), numbers,
                                        [this, handler](int& keyAscii) { (this->*handler)(keyAscii); });
+        b->setAccessibleName(QString::fromLatin1(spoken));
         b->setStyleSheet(boxStyle());
         b->setGeometry(under->geometry());
         b->raise();
         return b;
     };
-    Text1 = box(Picture2, "Text1", Label12, &y5fract4::Text1_KeyPress);
-    Text4 = box(Picture2, "Text4", Label8, &y5fract4::Text4_KeyPress);
-    Text2 = box(Picture2, "Text2", Label10, &y5fract4::Text2_KeyPress);
-    Text3 = box(Picture3, "Text3", Label17, &y5fract4::Text3_KeyPress);
-    Text5 = box(Picture3, "Text5", Label14, &y5fract4::Text5_KeyPress);
+    Text1 = box(Picture2, "Text1", "whole number", Label12, &y5fract4::Text1_KeyPress);
+    Text4 = box(Picture2, "Text4", "top number", Label8, &y5fract4::Text4_KeyPress);
+    Text2 = box(Picture2, "Text2", "bottom number", Label10, &y5fract4::Text2_KeyPress);
+    Text3 = box(Picture3, "Text3", "top number", Label17, &y5fract4::Text3_KeyPress);
+    Text5 = box(Picture3, "Text5", "bottom number", Label14, &y5fract4::Text5_KeyPress);
 
     // The band along the bottom: typing instruction or hint, and the product.
     Frame2 = panel(this, "Frame2", kColumnLeft, kBandTop, kBandWidth, kBandHeight, kActivityBack);
