@@ -161,6 +161,11 @@ void ActivityMenu::Command4_Click()
     Forms::showAndUnload(QString::fromLatin1(m_design.goodbye), this);
 }
 
+void ActivityMenu::closeBoxPressed()
+{
+    Command4_Click();
+}
+
 void ActivityMenu::Timer4_Timer()
 {
     Picture1->load(Logo::advance(m_design.logo));

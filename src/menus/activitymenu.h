@@ -75,6 +75,10 @@ public slots:
     void Timer1_Timer();
     void Timer2_Timer();
 
+protected:
+    // The close box says Goodbye.
+    void closeBoxPressed() override;
+
 private:
     void open(const Menus::Activity& activity);
 

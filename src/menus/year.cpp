@@ -188,6 +188,11 @@ void Year::Command4_Click()
     Forms::show<Titlefrm>()->Command2->setEnabled(true);
 }
 
+void Year::closeBoxPressed()
+{
+    Command4_Click();
+}
+
 void Year::Timer4_Timer()
 {
     Picture1->load(Logo::advance(Logo::Frames::Large));

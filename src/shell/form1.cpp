@@ -123,3 +123,8 @@ void Form1::Command1_Click()
 {
     Forms::showAndUnload(QStringLiteral("Year"), this);
 }
+
+void Form1::closeBoxPressed()
+{
+    Command1_Click();
+}
