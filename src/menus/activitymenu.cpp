@@ -99,6 +99,8 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
         // the name a screen reader speaks.
         button->setToolTip(QString::fromLatin1(activity.title));
         button->setAccessibleName(button->toolTip());
+        button->setAccessibleDescription(activity.subMenu ? QStringLiteral("Open more activities")
+                                                          : QStringLiteral("Open this activity"));
         Twips::place(button, kButtonLeft, top + (pitch - kButtonHeight) / 2, kButtonWidth, kButtonHeight);
         connect(button, &QPushButton::clicked, this, [this, &activity] { open(activity); });
         buttons.append(button);

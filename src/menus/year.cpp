@@ -109,7 +109,10 @@ Year::Year()
     Check1->setStyleSheet(QStringLiteral("color: white;"));
     Twips::place(Check1, kLeftColumn, 5640, 2400, 360);
 
-    // Right: a year button beside each year's name.
+    // Right: a year button beside each year's name. The buttons are made in
+    // the design's order; Tab and a screen reader take them top to bottom,
+    // Year 2 first.
+    QWidget* before = Check1;
     Frame1->setObjectName(QStringLiteral("Frame1"));
     Frame1->setFrameShape(QFrame::Box);
     Frame1->setStyleSheet(QStringLiteral("QFrame#Frame1 { border: 2px solid rgba(255, 255, 255, 150); border-radius: 10px; }"));
@@ -120,6 +123,9 @@ Year::Year()
         Twips::place(button, kYearButtonLeft, top, kYearButtonWidth, kYearButtonHeight);
         const Choice& choice = kChoices[i];
         connect(button, &QPushButton::clicked, this, [this, &choice] { choose(choice); });
+        button->raise();
+        setTabOrder(before, button);
+        before = button;
 
         QLabel* year = MenuLook::label(Frame1, QStringLiteral("Label12(%1)").arg(i),
                              QStringLiteral("Year %1").arg(i + 2),
@@ -131,7 +137,10 @@ Year::Year()
 
     Command4->setToolTip(QStringLiteral("Back to the start"));
     Command4->setAccessibleName(Command4->toolTip());
+    Command4->setAccessibleDescription(QStringLiteral("Go back to the first screen"));
     Twips::place(Command4, 8160, 5520, 1080, 840);
+    Command4->raise();
+    setTabOrder(before, Command4);
 
     connect(Command4, &QPushButton::clicked, this, &Year::Command4_Click);
     connect(Timer4, &QTimer::timeout, this, &Year::Timer4_Timer);
@@ -165,6 +174,7 @@ void Year::Form_Load()
         QPushButton* button = findChild<QPushButton*>(QString::fromLatin1(choice.button));
         button->setToolTip(editionLabel(choice));
         button->setAccessibleName(editionLabel(choice));
+        button->setAccessibleDescription(QStringLiteral("Open the activities of %1").arg(editionLabel(choice)));
         setButtonPicture(button, QStringLiteral("ico\\arw05rt.ico"));
     }
     setButtonPicture(Command4, QStringLiteral("ico\\door2.ico"));

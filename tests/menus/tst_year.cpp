@@ -4,6 +4,7 @@
 #include "shell/titlefrm.h"
 #include "testsupport.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QDesktopServices>
 #include <QLabel>
@@ -129,6 +130,26 @@ void TestYear::labelsFollowTheEdition()
     }
     QCOMPARE(year->Command4->property("picturePath").toString(), QStringLiteral("ico\\door2.ico"));
     QCOMPARE(year->Picture2->picturePath(), QStringLiteral("bmp\\morvane2.bmp"));
+
+    // Tab and a screen reader take the years top to bottom, then the door.
+    QStringList inOrder;
+    for (const QString& label : labels)
+        inOrder << label.simplified();
+    inOrder << QStringLiteral("Back to the start");
+    QStringList tabbed;
+    QWidget* w = year->Check1;
+    for (int step = 0; step < 40 && tabbed.size() < inOrder.size(); ++step) {
+        w = w->nextInFocusChain();
+        if (qobject_cast<QPushButton*>(w))
+            tabbed << w->accessibleName();
+    }
+    QCOMPARE(tabbed, inOrder);
+    QStringList read;
+    QAccessibleInterface* screen = QAccessible::queryAccessibleInterface(year);
+    for (int i = 0; i < screen->childCount(); ++i)
+        if (screen->child(i)->role() == QAccessible::Button)
+            read << screen->child(i)->text(QAccessible::Name);
+    QCOMPARE(read, inOrder);
 }
 
 void TestYear::soundBoxFollowsTheSettings_data()
