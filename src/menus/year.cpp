@@ -67,7 +67,7 @@ Year::Year()
     , Timer3(addTimer(QStringLiteral("Timer3"), kTimer3Ms))
     , Timer2(addTimer(QStringLiteral("Timer2"), kTimer2Ms))
     , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
-    , Check1(new QCheckBox(QStringLiteral("  Play Sound"), this))
+    , Check1(nullptr) // made after the buttons: Tab reaches it last
     , Picture1(new PictureBox(this, QStringLiteral("Picture1")))
     , Command6(arrowButton(this, "Command6"))
     , Command1(arrowButton(this, "Command1"))
@@ -88,7 +88,7 @@ Year::Year()
     Label4->setAlignment(Qt::AlignCenter);
     Twips::place(Label4, 0, 120, kScreenScaleWidthTwips, 1200);
 
-    // Left: the logo, the publisher and the sound switch.
+    // Left: the logo and the publisher.
     Picture1->setAutoSize(true);
     Picture1->load(Logo::frameFile(Logo::Frames::Large, Module1::logoframe));
     Twips::move(Picture1, kLeftColumn + 600, kRowTop);
@@ -102,17 +102,11 @@ Year::Year()
     Label3->setCursor(Qt::PointingHandCursor);
     Label3->setToolTip(QStringLiteral("Visit our web site"));
     Twips::place(Label3, kLeftColumn, 4920, 3000, 300);
-    Check1->setObjectName(QStringLiteral("Check1"));
-    Check1->setAccessibleName(Check1->text().trimmed());
-    Check1->setChecked(true);
-    Check1->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
-    Check1->setStyleSheet(QStringLiteral("color: white;"));
-    Twips::place(Check1, kLeftColumn, 5640, 2400, 360);
 
     // Right: a year button beside each year's name. The buttons are made in
     // the design's order; Tab and a screen reader take them top to bottom,
-    // Year 2 first.
-    QWidget* before = Check1;
+    // and Year 2 has the focus when the menu opens.
+    QWidget* before = nullptr;
     Frame1->setObjectName(QStringLiteral("Frame1"));
     Frame1->setFrameShape(QFrame::Box);
     Frame1->setStyleSheet(QStringLiteral("QFrame#Frame1 { border: 2px solid rgba(255, 255, 255, 150); border-radius: 10px; }"));
@@ -124,7 +118,8 @@ Year::Year()
         const Choice& choice = kChoices[i];
         connect(button, &QPushButton::clicked, this, [this, &choice] { choose(choice); });
         button->raise();
-        setTabOrder(before, button);
+        if (before)
+            setTabOrder(before, button);
         before = button;
 
         QLabel* year = MenuLook::label(Frame1, QStringLiteral("Label12(%1)").arg(i),
@@ -141,6 +136,15 @@ Year::Year()
     Twips::place(Command4, 8160, 5520, 1080, 840);
     Command4->raise();
     setTabOrder(before, Command4);
+
+    // The sound switch, under the publisher's lines.
+    Check1 = new QCheckBox(QStringLiteral("  Play Sound"), this);
+    Check1->setObjectName(QStringLiteral("Check1"));
+    Check1->setAccessibleName(Check1->text().trimmed());
+    Check1->setChecked(true);
+    Check1->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
+    Check1->setStyleSheet(QStringLiteral("color: white;"));
+    Twips::place(Check1, kLeftColumn, 5640, 2400, 360);
 
     connect(Command4, &QPushButton::clicked, this, &Year::Command4_Click);
     connect(Timer4, &QTimer::timeout, this, &Year::Timer4_Timer);

@@ -204,6 +204,18 @@ void TestMenus::menusFollowTheirDesign()
     for (QPushButton* b : form->buttons)
         QCOMPARE(b->property("picturePath").toString(), QStringLiteral("ico\\arw05rt.ico"));
 
+    // Tab takes the activities top to bottom, the first one first, then Goodbye.
+    QList<QWidget*> expected(form->buttons.cbegin(), form->buttons.cend());
+    expected << form->Command4;
+    QList<QWidget*> tabbed;
+    QWidget* w = form;
+    for (int step = 0; step < 60 && tabbed.size() < expected.size(); ++step) {
+        w = w->nextInFocusChain();
+        if (w->focusPolicy() & Qt::TabFocus)
+            tabbed << w;
+    }
+    QCOMPARE(tabbed, expected);
+
     // Every title fits its place and sits beside its own button.
     for (int i = 0; i < form->Label12.size(); ++i) {
         QLabel* title = form->Label12[i];
