@@ -54,7 +54,7 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
     , Picture2(new PictureBox(this, QStringLiteral("Picture2")))
     , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
     , Timer2(design.secondStartupTimer ? addTimer(QStringLiteral("Timer2"), kTimer2Ms) : nullptr)
-    , Command4(new QPushButton(QStringLiteral("Goodbye"), this))
+    , Command4(nullptr) // made after the activities: Tab reaches it last
     , Label1(MenuLook::label(this, QStringLiteral("Label1"), QString::fromLatin1(design.yearLabel),
                         Twips::font(QStringLiteral("Times New Roman"), 20, true), kYearInk))
     , Label4(MenuLook::label(this, QStringLiteral("Label4"), QStringLiteral("Partitude"),
@@ -70,7 +70,7 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
     Label1->setAlignment(Qt::AlignCenter);
     Twips::place(Label1, 0, 900, kInsideWidth, 540);
 
-    // Left: the logo and the way back.
+    // Left: the logo; the way back goes under it, made last.
     Picture1->setAutoSize(true);
     Picture1->setBackColour(kBack);
     Picture1->load(Logo::frameFile(design.logo, Module1::logoframe));
@@ -79,11 +79,6 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
     const bool large = design.logo == Logo::Frames::Large;
     Twips::move(Picture1, large ? kLeftColumn + 600 : kLeftColumn + 900, kRowsTop);
     Twips::move(Picture2, kLeftColumn, large ? 3480 : 3060);
-    Command4->setObjectName(QStringLiteral("Command4"));
-    Command4->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
-    Command4->setIconSize(QSize(32, 32));
-    Command4->setToolTip(QStringLiteral("Go back"));
-    Twips::place(Command4, kLeftColumn, 5340, 2160, 780);
 
     // Right: one row for each activity.
     const QVector<const Activities::Row*> rows = Activities::onMenu(objectName());
@@ -96,7 +91,12 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
         auto* button = new QPushButton(this);
         button->setObjectName(QString::fromLatin1(activity.button));
         button->setIconSize(QSize(28, 28));
+        // The arrow shows no words; the activity's title is its tip and
+        // the name a screen reader speaks.
         button->setToolTip(QString::fromLatin1(activity.title));
+        button->setAccessibleName(button->toolTip());
+        button->setAccessibleDescription(activity.subMenu ? QStringLiteral("Open more activities")
+                                                          : QStringLiteral("Open this activity"));
         Twips::place(button, kButtonLeft, top + (pitch - kButtonHeight) / 2, kButtonWidth, kButtonHeight);
         connect(button, &QPushButton::clicked, this, [this, &activity] { open(activity); });
         buttons.append(button);
@@ -109,6 +109,16 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
         fitTitleFont(title);
         Label12.append(title);
     }
+
+    // The way back, made last: Tab and a screen reader take the activities
+    // top to bottom and then Goodbye, and the first activity has the focus
+    // when the menu opens.
+    Command4 = new QPushButton(QStringLiteral("Goodbye"), this);
+    Command4->setObjectName(QStringLiteral("Command4"));
+    Command4->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
+    Command4->setIconSize(QSize(32, 32));
+    Command4->setToolTip(QStringLiteral("Go back"));
+    Twips::place(Command4, kLeftColumn, 5340, 2160, 780);
 
     connect(Command4, &QPushButton::clicked, this, &ActivityMenu::Command4_Click);
     connect(Timer4, &QTimer::timeout, this, &ActivityMenu::Timer4_Timer);
@@ -157,6 +167,11 @@ void ActivityMenu::open(const Activities::Row& activity)
 void ActivityMenu::Command4_Click()
 {
     Forms::showAndUnload(QString::fromLatin1(m_design.goodbye), this);
+}
+
+void ActivityMenu::closeBoxPressed()
+{
+    Command4_Click();
 }
 
 void ActivityMenu::Timer4_Timer()

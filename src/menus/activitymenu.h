@@ -63,6 +63,10 @@ public slots:
     void Timer1_Timer();
     void Timer2_Timer();
 
+protected:
+    // The close box says Goodbye.
+    void closeBoxPressed() override;
+
 private:
     void open(const Activities::Row& activity);
 

@@ -71,3 +71,8 @@ void Comingsoon::cmdexit_Click()
 {
     Forms::showAndUnload(m_menu, this);
 }
+
+void Comingsoon::closeBoxPressed()
+{
+    cmdexit_Click();
+}

@@ -26,6 +26,10 @@ public slots:
     void Form_Load();
     void cmdexit_Click();
 
+protected:
+    // The close box says Goodbye.
+    void closeBoxPressed() override;
+
 private:
     QString m_menu;
 };

@@ -44,6 +44,12 @@ constexpr int kYearButtonHeight = 720;
 constexpr int kFrameLeft = 5400;
 constexpr int kFrameWidth = 2400;
 
+// What a year button stands for in the edition in use: "Year 2" or "Unit 1".
+QString editionLabel(const Year::Choice& choice)
+{
+    return QString::fromLatin1(Module1::version == QLatin1String("1") ? choice.unitLabel : choice.yearLabel);
+}
+
 QPushButton* arrowButton(QWidget* parent, const char* name)
 {
     auto* b = new QPushButton(parent);
@@ -61,7 +67,7 @@ Year::Year()
     , Timer3(addTimer(QStringLiteral("Timer3"), kTimer3Ms))
     , Timer2(addTimer(QStringLiteral("Timer2"), kTimer2Ms))
     , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
-    , Check1(new QCheckBox(QStringLiteral("  Play Sound"), this))
+    , Check1(nullptr) // made after the buttons: Tab reaches it last
     , Picture1(new PictureBox(this, QStringLiteral("Picture1")))
     , Command6(arrowButton(this, "Command6"))
     , Command1(arrowButton(this, "Command1"))
@@ -82,7 +88,7 @@ Year::Year()
     Label4->setAlignment(Qt::AlignCenter);
     Twips::place(Label4, 0, 120, kScreenScaleWidthTwips, 1200);
 
-    // Left: the logo, the publisher and the sound switch.
+    // Left: the logo and the publisher.
     Picture1->setAutoSize(true);
     Picture1->load(Logo::frameFile(Logo::Frames::Large, Module1::logoframe));
     Twips::move(Picture1, kLeftColumn + 600, kRowTop);
@@ -96,12 +102,11 @@ Year::Year()
     Label3->setCursor(Qt::PointingHandCursor);
     Label3->setToolTip(QStringLiteral("Visit our web site"));
     Twips::place(Label3, kLeftColumn, 4920, 3000, 300);
-    Check1->setChecked(true);
-    Check1->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
-    Check1->setStyleSheet(QStringLiteral("color: white;"));
-    Twips::place(Check1, kLeftColumn, 5640, 2400, 360);
 
-    // Right: a year button beside each year's name.
+    // Right: a year button beside each year's name. The buttons are made in
+    // the design's order; Tab and a screen reader take them top to bottom,
+    // and Year 2 has the focus when the menu opens.
+    QWidget* before = nullptr;
     Frame1->setObjectName(QStringLiteral("Frame1"));
     Frame1->setFrameShape(QFrame::Box);
     Frame1->setStyleSheet(QStringLiteral("QFrame#Frame1 { border: 2px solid rgba(255, 255, 255, 150); border-radius: 10px; }"));
@@ -110,9 +115,12 @@ Year::Year()
         const int top = kRowTop + i * kRowPitch;
         QPushButton* button = findChild<QPushButton*>(QString::fromLatin1(kChoices[i].button));
         Twips::place(button, kYearButtonLeft, top, kYearButtonWidth, kYearButtonHeight);
-        button->setToolTip(QString::fromLatin1(kChoices[i].yearLabel));
         const Choice& choice = kChoices[i];
         connect(button, &QPushButton::clicked, this, [this, &choice] { choose(choice); });
+        button->raise();
+        if (before)
+            setTabOrder(before, button);
+        before = button;
 
         QLabel* year = MenuLook::label(Frame1, QStringLiteral("Label12(%1)").arg(i),
                              QStringLiteral("Year %1").arg(i + 2),
@@ -123,7 +131,20 @@ Year::Year()
     }
 
     Command4->setToolTip(QStringLiteral("Back to the start"));
+    Command4->setAccessibleName(Command4->toolTip());
+    Command4->setAccessibleDescription(QStringLiteral("Go back to the first screen"));
     Twips::place(Command4, 8160, 5520, 1080, 840);
+    Command4->raise();
+    setTabOrder(before, Command4);
+
+    // The sound switch, under the publisher's lines.
+    Check1 = new QCheckBox(QStringLiteral("  Play Sound"), this);
+    Check1->setObjectName(QStringLiteral("Check1"));
+    Check1->setAccessibleName(Check1->text().trimmed());
+    Check1->setChecked(true);
+    Check1->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
+    Check1->setStyleSheet(QStringLiteral("color: white;"));
+    Twips::place(Check1, kLeftColumn, 5640, 2400, 360);
 
     connect(Command4, &QPushButton::clicked, this, &Year::Command4_Click);
     connect(Timer4, &QTimer::timeout, this, &Year::Timer4_Timer);
@@ -151,9 +172,15 @@ void Year::Form_Load()
     }
     if (Module1::soundoption == 0)
         Check1->setChecked(false);
-    for (const Choice& choice : kChoices)
-        setButtonPicture(findChild<QPushButton*>(QString::fromLatin1(choice.button)),
-                         QStringLiteral("ico\\arw05rt.ico"));
+    for (const Choice& choice : kChoices) {
+        // The arrow shows no words: its tip and its spoken name say which
+        // year (or unit) it opens.
+        QPushButton* button = findChild<QPushButton*>(QString::fromLatin1(choice.button));
+        button->setToolTip(editionLabel(choice));
+        button->setAccessibleName(editionLabel(choice));
+        button->setAccessibleDescription(QStringLiteral("Open the activities of %1").arg(editionLabel(choice)));
+        setButtonPicture(button, QStringLiteral("ico\\arw05rt.ico"));
+    }
     setButtonPicture(Command4, QStringLiteral("ico\\door2.ico"));
     Picture2->load(Logo::bitmapFile(Logo::Frames::Large));
     Timer4->setEnabled(true);
@@ -162,8 +189,7 @@ void Year::Form_Load()
 
 void Year::choose(const Choice& choice)
 {
-    Module1::yearlabel = QString::fromLatin1(Module1::version == QLatin1String("1") ? choice.unitLabel
-                                                                                    : choice.yearLabel);
+    Module1::yearlabel = editionLabel(choice);
     Module1::streak = choice.streak;
     Forms::showAndUnload(QString::fromLatin1(choice.menu), this);
 }
@@ -174,6 +200,11 @@ void Year::Command4_Click()
     Forms::load<Titlefrm>()->Command1->setText(QStringLiteral("Cancel"));
     Forms::unload(this);
     Forms::show<Titlefrm>()->Command2->setEnabled(true);
+}
+
+void Year::closeBoxPressed()
+{
+    Command4_Click();
 }
 
 void Year::Timer4_Timer()

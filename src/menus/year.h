@@ -57,6 +57,10 @@ public slots:
     void Timer3_Timer();
     void Label3_Click();
 
+protected:
+    // The close box is the door: back to the title screen.
+    void closeBoxPressed() override;
+
 private:
     // A year button's click: the label and run length, then its menu.
     void choose(const Choice& choice);

@@ -121,6 +121,11 @@ void Reward::Timer2_Timer()
     Timer2->setEnabled(false);
 }
 
+void Reward::closeBoxPressed()
+{
+    Forms::unload(this);
+}
+
 void Reward::Timer3_Timer()
 {
     Timer3->setEnabled(false);

@@ -39,4 +39,9 @@ public slots:
     void Timer1_Timer();
     void Timer2_Timer();
     void Timer3_Timer();
+
+protected:
+    // The panel has no close box; should the window system close it all the
+    // same, it goes as its timers would take it away.
+    void closeBoxPressed() override;
 };

@@ -58,6 +58,7 @@ Welldone::Welldone()
     Twips::move(Picture1, (kInside - Twips::fromPixels(Picture1->width())) / 2, 1020);
 
     Text1->setObjectName(QStringLiteral("Text1"));
+    Text1->setAccessibleName(QStringLiteral("your name"));
     Text1->setFont(Twips::font(QStringLiteral("Times New Roman"), 18, true));
     Text1->setAlignment(Qt::AlignCenter);
     Text1->setMaxLength(40);
@@ -71,6 +72,7 @@ Welldone::Welldone()
     cmdexit->setObjectName(QStringLiteral("cmdexit"));
     cmdexit->setIconSize(QSize(32, 32));
     cmdexit->setToolTip(QStringLiteral("Goodbye"));
+    cmdexit->setAccessibleName(cmdexit->toolTip());
     Twips::place(cmdexit, kInside - 1200 - 1080, 4860, 1080, 720);
 
     connect(cmdexit, &QPushButton::clicked, this, &Welldone::cmdexit_Click);

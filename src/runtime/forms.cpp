@@ -44,6 +44,13 @@ bool isRegistered(const QString& name) { return factories().contains(name); }
 
 void unregisterForm(const QString& name) { factories().remove(name); }
 
+QStringList registeredNames()
+{
+    QStringList names = factories().keys();
+    names.sort();
+    return names;
+}
+
 Form* find(const QString& name)
 {
     auto it = loaded().find(name);

@@ -18,6 +18,8 @@ void registerForm(const QString& name, Factory factory);
 bool isRegistered(const QString& name);
 // Forgets a screen (tests put stand-in screens in and take them out again).
 void unregisterForm(const QString& name);
+// Every registered screen's name, sorted.
+QStringList registeredNames();
 
 // The loaded screen of that name, or nullptr.
 Form* find(const QString& name);

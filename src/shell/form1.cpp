@@ -62,6 +62,10 @@ Form1::Form1()
     Frame1->hide();
 
     Check2->setFont(text);
+    // The captions start with blanks, which a screen reader need not hear.
+    for (QAbstractButton* choice : std::initializer_list<QAbstractButton*>{Option1, Option2, Check2})
+        choice->setAccessibleName(choice->text().trimmed());
+    Command1->setAccessibleDescription(QStringLiteral("Keep these choices and go on to choose your year"));
     Twips::place(Check2, 1320, 3240, 4800, 480);
 
     Command1->setFont(Twips::font(QStringLiteral("Liberation Sans"), 12, true));
@@ -118,4 +122,9 @@ void Form1::Check2_Click()
 void Form1::Command1_Click()
 {
     Forms::showAndUnload(QStringLiteral("Year"), this);
+}
+
+void Form1::closeBoxPressed()
+{
+    Command1_Click();
 }

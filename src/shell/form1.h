@@ -31,6 +31,11 @@ public slots:
     void Check2_Click();
     void Command1_Click();
 
+protected:
+    // The close box is OK: the choices are already saved, and the program
+    // ends only from the title screen.
+    void closeBoxPressed() override;
+
 private:
     void chooseEdition(const QString& value);
 };

@@ -78,6 +78,9 @@ Titlefrm::Titlefrm()
     Twips::place(Command1, 4800, 5280, 1860, 660);
     Twips::place(Command2, 6960, 5280, 1860, 660);
     Command1->setDefault(true);
+    // Their words say little about where they lead; a screen reader adds it.
+    Command1->setAccessibleDescription(QStringLiteral("Go on to choose your year"));
+    Command2->setAccessibleDescription(QStringLiteral("Close Partitude"));
 
     connect(Timer1, &QTimer::timeout, this, &Titlefrm::Timer1_Timer);
     connect(Command1, &QPushButton::clicked, this, &Titlefrm::Command1_Click);

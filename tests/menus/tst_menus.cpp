@@ -150,6 +150,7 @@ void TestMenus::activityButtons()
     Forms::show(menu);
     QCOMPARE(Forms::find(menu)->findChild<QLabel*>(QStringLiteral("Label12(%1)").arg(r.index))->text(),
              QString::fromLatin1(r.title));
+    QCOMPARE(button(menu, QString::fromLatin1(r.button))->accessibleName(), QString::fromLatin1(r.title));
     button(menu, QString::fromLatin1(r.button))->click();
     TestSupport::flushUnloads();
     QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("Comingsoon")});
@@ -202,6 +203,18 @@ void TestMenus::menusFollowTheirDesign()
     QCOMPARE(form->Command4->property("picturePath").toString(), QStringLiteral("ico\\door2.ico"));
     for (QPushButton* b : form->buttons)
         QCOMPARE(b->property("picturePath").toString(), QStringLiteral("ico\\arw05rt.ico"));
+
+    // Tab takes the activities top to bottom, the first one first, then Goodbye.
+    QList<QWidget*> expected(form->buttons.cbegin(), form->buttons.cend());
+    expected << form->Command4;
+    QList<QWidget*> tabbed;
+    QWidget* w = form;
+    for (int step = 0; step < 60 && tabbed.size() < expected.size(); ++step) {
+        w = w->nextInFocusChain();
+        if (w->focusPolicy() & Qt::TabFocus)
+            tabbed << w;
+    }
+    QCOMPARE(tabbed, expected);
 
     // Every title fits its place and sits beside its own button.
     for (int i = 0; i < form->Label12.size(); ++i) {

@@ -4,6 +4,7 @@
 #include "shell/titlefrm.h"
 #include "testsupport.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QDesktopServices>
 #include <QLabel>
@@ -85,6 +86,8 @@ void TestYear::yearButtonsSetTheYearAndTheRun()
     streak = run == 10 ? 20 : 10;
     Year* year = showYear(edition);
     QCOMPARE(questions, streak);
+    // The arrow has no words of its own: a screen reader says the year.
+    QCOMPARE(year->findChild<QPushButton*>(button)->accessibleName(), label);
     year->findChild<QPushButton*>(button)->click();
     TestSupport::flushUnloads();
     QCOMPARE(yearlabel, label);
@@ -127,6 +130,28 @@ void TestYear::labelsFollowTheEdition()
     }
     QCOMPARE(year->Command4->property("picturePath").toString(), QStringLiteral("ico\\door2.ico"));
     QCOMPARE(year->Picture2->picturePath(), QStringLiteral("bmp\\morvane2.bmp"));
+
+    // Tab and a screen reader take the years top to bottom, then the door;
+    // Tab goes on to the sound box.
+    QStringList inOrder;
+    for (const QString& label : labels)
+        inOrder << label.simplified();
+    inOrder << QStringLiteral("Back to the start");
+    const QStringList tabOrder = inOrder + QStringList{QStringLiteral("Play Sound")};
+    QStringList tabbed;
+    QWidget* w = year;
+    for (int step = 0; step < 40 && tabbed.size() < tabOrder.size(); ++step) {
+        w = w->nextInFocusChain();
+        if (w->focusPolicy() & Qt::TabFocus)
+            tabbed << w->accessibleName();
+    }
+    QCOMPARE(tabbed, tabOrder);
+    QStringList read;
+    QAccessibleInterface* screen = QAccessible::queryAccessibleInterface(year);
+    for (int i = 0; i < screen->childCount(); ++i)
+        if (screen->child(i)->role() == QAccessible::Button)
+            read << screen->child(i)->text(QAccessible::Name);
+    QCOMPARE(read, inOrder);
 }
 
 void TestYear::soundBoxFollowsTheSettings_data()

@@ -50,7 +50,7 @@ constexpr int kProductWidth = 1680;
 constexpr int kOpeningLeft = 1300;
 constexpr int kOpeningTop = 1320;
 constexpr int kOpeningWidth = 6880;
-constexpr int kOpeningHeight = 3960;
+constexpr int kOpeningHeight = 3180; // above the run's length
 
 // The numbers in a panel: cells of one or two digits, a fraction being a
 // numerator cell over a bar over a denominator cell.
@@ -172,7 +172,7 @@ void y5fract4::buildBoard()
     Twips::place(Option2, 1800, 90, 1620, 360);
     Label3 = label(Picture1, "Label3", QStringLiteral("Good Luck."), Twips::font(kSerif, 16, true), kPanelInk,
                    Qt::AlignCenter);
-    Twips::place(Label3, 240, 3240, openingInside, 540);
+    Twips::place(Label3, 240, 2340, openingInside, 540);
     for (QLabel* l : {Label4, Label6, Label3})
         setInk(l, kPanelInk, kPanelPaper);
 
@@ -220,6 +220,7 @@ void y5fract4::buildBoard()
     Picture3->hide();
 
     // Each answer box lies over the label that replaces it.
+    // Each is named for the number it holds, as a screen reader says it.
     auto box = [&](QWidget* parent, const char* name, const char* spoken, QLabel* under,
                    void (y5fract4::*handler)(int&)) {
         QLineEdit* b = AnswerBox::make(parent, QString::fromLatin1(name), QString::fromLatin1(spoken), numbers,

@@ -132,6 +132,7 @@ Y6fract3::Y6fract3()
     Twips::move(Image2, 0, 1200);
     Image2->raise();
     raiseButtons();
+    cmdundo->raise(); // the board's frame, made after it, would cover it
     // Nothing is checked before Start: the check follows the fifth click.
     cmdcheck->setEnabled(false);
 
