@@ -89,7 +89,7 @@ Sheet orderingSheet()
     return sheet;
 }
 
-QSizeF sheetSize(double pageWidthPt, double pageHeightPt)
+QSizeF sheetSize(double pageWidthPt = PdfSupport::kPageWidthPt, double pageHeightPt = PdfSupport::kPageHeightPt)
 {
     return QSizeF(pageWidthPt - 2 * kSheetCornerPt, pageHeightPt - 2 * kSheetCornerPt) * 20;
 }
@@ -237,7 +237,7 @@ void TestGeneratedSheet::printsQuestionsThenAnswers()
     QVERIFY(longest->last().box.top() > longest->first().box.bottom());
 
     // Every word is on the sheet, and no two words run into each other.
-    const QRectF onSheet(QPointF(kSheetCornerPt, kSheetCornerPt), sheetSize(PdfSupport::kPageWidthPt, PdfSupport::kPageHeightPt) / 20);
+    const QRectF onSheet(QPointF(kSheetCornerPt, kSheetCornerPt), sheetSize() / 20);
     for (const QList<Word>& page : {front, back})
         for (int i = 0; i < page.size(); ++i) {
             QVERIFY2(onSheet.contains(page[i].box), qPrintable(page[i].text));
@@ -254,7 +254,7 @@ void TestGeneratedSheet::everythingStaysInsideAndApart_data()
     QTest::addColumn<QSizeF>("size");
     QTest::addColumn<int>("columns");
     QTest::addColumn<bool>("picturesShrink");
-    const QSizeF a4 = sheetSize(PdfSupport::kPageWidthPt, PdfSupport::kPageHeightPt), letter = sheetSize(612, 792);
+    const QSizeF a4 = sheetSize(), letter = sheetSize(612, 792);
     QTest::newRow("short questions, A4") << mixedSheet() << a4 << 2 << false;
     QTest::newRow("short questions, Letter: shorter paper") << mixedSheet() << letter << 2 << true;
     QTest::newRow("long stories, Letter") << wordySheet() << letter << 1 << false;
@@ -314,7 +314,7 @@ void TestGeneratedSheet::picturesKeepToTheirPlace()
     const QImage page = PdfSupport::render(PdfSupport::files(pdfs->path()).value(0), kDpi);
     QVERIFY(!page.isNull());
     // Where the layout put the pictures, on the rendered page, a pixel spare all round.
-    const auto plan = Layout::questionsPage(sheet, "Year 4", sheetSize(PdfSupport::kPageWidthPt, PdfSupport::kPageHeightPt));
+    const auto plan = Layout::questionsPage(sheet, "Year 4", sheetSize());
     QList<QRectF> places;
     for (const Layout::QuestionCard& c : plan.cards)
         if (!c.picture.isNull())
@@ -325,7 +325,8 @@ void TestGeneratedSheet::picturesKeepToTheirPlace()
         for (int x = 0; x < page.width(); ++x) {
             const QColor c = page.pixelColor(x, y);
             if (qAbs(c.red() - kShaded.red()) + qAbs(c.green() - kShaded.green()) + qAbs(c.blue() - kShaded.blue()) < 30)
-                QVERIFY2(std::any_of(places.begin(), places.end(), [&](const QRectF& r) { return r.contains(x + 0.5, y + 0.5); }),
+                QVERIFY2(std::any_of(places.begin(), places.end(),
+                                     [&](const QRectF& r) { return r.contains(x + 0.5, y + 0.5); }),
                          qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
         }
     // The picture that paints everywhere fills its own place.
