@@ -53,15 +53,41 @@ inline QStringList lines(const QString& pdf)
     return result;
 }
 
+// The non-blank lines of each page, trimmed: pdftotext ends every page
+// with a form feed.
+inline QList<QStringList> pages(const QString& pdf)
+{
+    QList<QStringList> result;
+    const QString text = QString::fromUtf8(run(QStringLiteral("pdftotext"), {pdf, QStringLiteral("-")}));
+    QStringList page;
+    for (const QString& line : text.split(QLatin1Char('\n'))) {
+        const QStringList parts = line.split(QLatin1Char('\f'));
+        for (int i = 0; i < parts.size(); ++i) {
+            if (i > 0) {
+                result << page;
+                page.clear();
+            }
+            if (!parts[i].trimmed().isEmpty())
+                page << parts[i].trimmed();
+        }
+    }
+    return result;
+}
+
 struct Word {
     QString text;
     QRectF box; // in points from the page's top-left corner
 };
 
-inline QList<Word> words(const QString& pdf)
+// The words of every page, or of one page when page is given.
+inline QList<Word> words(const QString& pdf, int page = 0)
 {
     QList<Word> result;
-    const QString html = QString::fromUtf8(run(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf, QStringLiteral("-")}));
+    QStringList arguments{QStringLiteral("-bbox")};
+    if (page > 0)
+        arguments << QStringLiteral("-f") << QString::number(page) << QStringLiteral("-l") << QString::number(page);
+    arguments << pdf << QStringLiteral("-");
+    const QString html = QString::fromUtf8(run(QStringLiteral("pdftotext"), arguments));
     static const QRegularExpression word(QString::fromLatin1(
         R"re(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="([\d.]+)" yMax="([\d.]+)">([^<]*)</word>)re"));
     for (auto it = word.globalMatch(html); it.hasNext();) {
@@ -72,12 +98,14 @@ inline QList<Word> words(const QString& pdf)
     return result;
 }
 
-// The first page drawn at dpi dots per inch.
-inline QImage render(const QString& pdf, int dpi)
+// A page (the first unless told) drawn at dpi dots per inch.
+inline QImage render(const QString& pdf, int dpi, int page = 1)
 {
     QTemporaryDir dir;
     const QString stem = dir.filePath(QStringLiteral("page"));
+    const QString number = QString::number(page);
     run(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QString::number(dpi), QStringLiteral("-png"),
+                                     QStringLiteral("-f"), number, QStringLiteral("-l"), number,
                                      QStringLiteral("-singlefile"), pdf, stem});
     return QImage(stem + QStringLiteral(".png"));
 }

@@ -242,6 +242,18 @@ void Printer::paintWith(const QRectF& twipsRect, const Drawing& draw)
     draw(p, toDevice(twipsRect));
 }
 
+void Printer::newPage()
+{
+    QPainter& p = painter();
+    if (!m_page->device->newPage()) {
+        p.end();
+        reset();
+        throw PrinterError("The printer cannot start a new page.");
+    }
+    CurrentX = 0;
+    CurrentY = 0;
+}
+
 void Printer::endDoc()
 {
     const bool open = documentOpen();

@@ -94,6 +94,12 @@ public:
     using Drawing = std::function<void(QPainter& painter, const QRectF& deviceRect)>;
     void paintWith(const QRectF& twipsRect, const Drawing& draw);
 
+    // Ends the page and goes on to a fresh one of the same document (in a PDF
+    // file, its next page); CurrentX and CurrentY go back to the top-left
+    // corner. With no document open it starts one first, so the page it ends
+    // is blank.
+    void newPage();
+
     // Sends the page: to the printer, or finishes the PDF file. The next call
     // that draws starts a new document. Does nothing when nothing was drawn.
     void endDoc();

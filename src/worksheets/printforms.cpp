@@ -12,9 +12,22 @@
 
 namespace Worksheets {
 
-const Sheet kHalves{"y2fracprint1", "wmf\\y2print1.wmf", "wmf\\u1print1.wmf"};
-const Sheet kMixedNumbers{"y5fracprint4", "wmf\\y5print4.wmf", "wmf\\u4print4.wmf"};
-const Sheet kOrdering{"y6fracprint3", "wmf\\y6print3.wmf", "wmf\\u5print3.wmf"};
+const DesignedSheet kHalves{"y2fracprint1", "wmf\\y2print1.wmf", "wmf\\u1print1.wmf"};
+const DesignedSheet kMixedNumbers{"y5fracprint4", "wmf\\y5print4.wmf", "wmf\\u4print4.wmf"};
+const DesignedSheet kOrdering{"y6fracprint3", "wmf\\y6print3.wmf", "wmf\\u5print3.wmf"};
+
+bool printOrTell(const std::function<void()>& print)
+{
+    try {
+        print();
+        return true;
+    } catch (const PrintCancelled&) {
+        MsgBox::show(QStringLiteral("Printing has been cancelled."));
+    } catch (const PrinterError&) {
+        MsgBox::show(QStringLiteral("There was a problem printing to your printer."));
+    }
+    return false;
+}
 
 bool askAndPrint(const QString& printForm)
 {
@@ -35,7 +48,7 @@ constexpr int kHeight = 9000;
 constexpr int kInside = kWidth - Form::kBorderWidthTwips;
 } // namespace
 
-WorksheetForm::WorksheetForm(const Worksheets::Sheet& sheet)
+WorksheetForm::WorksheetForm(const Worksheets::DesignedSheet& sheet)
     : Form(QString::fromLatin1(sheet.form))
     , Picture1(new MetafileBox(this, QStringLiteral("Picture1")))
     , Command1(new QPushButton(QStringLiteral("Print a worksheet"), this))
@@ -68,7 +81,7 @@ void WorksheetForm::closeBoxPressed()
 bool WorksheetForm::printWorksheet()
 {
     const Metafile sheet = *Picture1->picture();
-    try {
+    return Worksheets::printOrTell([&sheet] {
         Printer& p = printer();
         p.Orientation = Printer::Portrait;
         p.print(); // opens the job
@@ -76,11 +89,5 @@ bool WorksheetForm::printWorksheet()
         p.paintWith(QRectF(kPageLeft, kPageTop, size.width(), size.height()),
                     [&sheet](QPainter& painter, const QRectF& target) { sheet.play(painter, target); });
         p.endDoc();
-        return true;
-    } catch (const PrintCancelled&) {
-        MsgBox::show(QStringLiteral("Printing has been cancelled."));
-    } catch (const PrinterError&) {
-        MsgBox::show(QStringLiteral("There was a problem printing to your printer."));
-    }
-    return false;
+    });
 }

@@ -5,27 +5,29 @@
 // picks the picture).
 #include "runtime/form.h"
 
+#include <functional>
+
 class MetafileBox;
 class QPushButton;
 
 namespace Worksheets {
 
-struct Sheet {
+struct DesignedSheet {
     const char* form;    // "y2fracprint1"
     const char* primary; // the picture in the primary edition
     const char* secondary; // and in the secondary edition
 };
 
-extern const Sheet kHalves;
-extern const Sheet kMixedNumbers;
-extern const Sheet kOrdering;
+extern const DesignedSheet kHalves;
+extern const DesignedSheet kMixedNumbers;
+extern const DesignedSheet kOrdering;
 
 } // namespace Worksheets
 
 class WorksheetForm : public Form {
     Q_OBJECT
 public:
-    explicit WorksheetForm(const Worksheets::Sheet& sheet);
+    explicit WorksheetForm(const Worksheets::DesignedSheet& sheet);
 
     MetafileBox* Picture1; // the worksheet
     QPushButton* Command1; // "Print a worksheet"
@@ -46,7 +48,7 @@ protected:
     void closeBoxPressed() override;
 
 private:
-    const Worksheets::Sheet& m_sheet;
+    const Worksheets::DesignedSheet& m_sheet;
 };
 
 class y2fracprint1 : public WorksheetForm {
@@ -66,6 +68,11 @@ public:
 };
 
 namespace Worksheets {
+
+// Runs a print routine; when the printer fails the child is told: "Printing
+// has been cancelled." or "There was a problem printing to your printer.".
+// Returns whether it printed.
+bool printOrTell(const std::function<void()>& print);
 
 // What an activity's print button does: "Do you really want to print?",
 // with the year as the title; on Yes the worksheet of that print form is

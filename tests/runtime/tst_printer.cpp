@@ -54,6 +54,8 @@ private slots:
     void centredTextIsCentredOnThePage_data();
     void centredTextIsCentredOnThePage();
     void drawingsLandAtTheirPlaceSizeAndColour();
+    void newPageGoesOnInTheSameDocument_data();
+    void newPageGoesOnInTheSameDocument();
     void aPageThatCannotBeOpenedFailsTheDrawingThenRecovers();
 };
 
@@ -216,6 +218,38 @@ void TestPrinter::drawingsLandAtTheirPlaceSizeAndColour()
     QVERIFY(qAbs(after.box.top() * 20 - margin() - 8000) < 60);
     // The text is in its colour and at full strength, whatever the drawing above did.
     QVERIFY(qAbs(twipsBox(page, QBColor(1), 48, margin()).left() - 1000) < 90);
+}
+
+void TestPrinter::newPageGoesOnInTheSameDocument_data()
+{
+    QTest::addColumn<QStringList>("before"); // what the first page prints
+    QTest::addColumn<QList<QStringList>>("pages");
+    QTest::newRow("two pages") << QStringList{"Questions"} << QList<QStringList>{{"Questions"}, {"Answers"}};
+    QTest::newRow("nothing yet: a blank page first") << QStringList{} << QList<QStringList>{{}, {"Answers"}};
+}
+
+void TestPrinter::newPageGoesOnInTheSameDocument()
+{
+    QFETCH(QStringList, before);
+    QFETCH(QList<QStringList>, pages);
+    Printer& p = printer();
+    for (const QString& text : before) {
+        p.CurrentY = 5000;
+        p.print(text);
+    }
+    p.CurrentX = 3000;
+    p.newPage();
+    QVERIFY(p.documentOpen());
+    QCOMPARE(QPointF(p.CurrentX, p.CurrentY), QPointF(0, 0));
+    p.print("Answers");
+    p.endDoc();
+    const QString pdf = onlyFile();
+    QVERIFY(!pdf.isEmpty());
+    QCOMPARE(PdfSupport::pages(pdf), pages);
+    // The second page starts at its own top-left corner.
+    const QList<Word> second = PdfSupport::words(pdf, 2);
+    QCOMPARE(second.size(), 1);
+    QVERIFY(qAbs(second[0].box.left() * 20 - margin()) < 40 && qAbs(second[0].box.top() * 20 - margin()) < 60);
 }
 
 void TestPrinter::aPageThatCannotBeOpenedFailsTheDrawingThenRecovers()
