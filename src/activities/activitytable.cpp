@@ -1,7 +1,9 @@
 #include "activitytable.h"
 
 #include "activities/halves/y2fractions.h"
+#include "activities/halvesnumbers/picturesboard.h"
 #include "activities/halvesnumbers/y2fractions3.h"
+#include "activities/halvesshapes/shapesboard.h"
 #include "activities/halvesshapes/y2fractions2.h"
 #include "activities/mixed/y5fract4.h"
 #include "activities/ordering/y6fract3.h"
@@ -29,11 +31,11 @@ QString promptText(Prompt prompt)
 
 const QVector<Row>& all()
 {
-    // menu, button, title, screen, prompt, screen maker, designed worksheet
+    // menu, button, title, screen, prompt, screen maker, designed worksheet, generated worksheet
     static const QVector<Row> rows{
         {"y2Intro", "Command5", "Halves and Quarters 1", "Y2fractions", kEither, make<Y2fractions>, "y2fracprint1"},
-        {"y2Intro", "Command2", "Halves and Quarters 2", "Y2fractions2", kEither, make<Y2fractions2>},
-        {"y2Intro", "Command3", "Halves and Quarters 3", "Y2fractions3", kShort, make<Y2fractions3>},
+        {"y2Intro", "Command2", "Halves and Quarters 2", "Y2fractions2", kEither, make<Y2fractions2>, nullptr, ShapesBoard::worksheet},
+        {"y2Intro", "Command3", "Halves and Quarters 3", "Y2fractions3", kShort, make<Y2fractions3>, nullptr, PicturesBoard::worksheet},
 
         {"y3Intro", "Command2", "Halves, Quarters, Thirds and Tenths 1", "y3fract1", kEither},
         {"y3Intro", "Command3", "Halves, Quarters, Thirds and Tenths 2", "y3fract2", kEither},
@@ -48,7 +50,7 @@ const QVector<Row>& all()
         {"y5Intro", "Command1", "Fractions of Numbers", "y5fract1", kEither},
         {"y5Intro", "Command3", "Equivalent Fractions", "y5fract2", kEither},
         {"y5Intro", "Command5", "Cancelling", "y5fract3", kEither},
-        {"y5Intro", "Command2", "Mixed Numbers and Improper Fractions", "y5Intro2", kEither, nullptr, nullptr, true},
+        {"y5Intro", "Command2", "Mixed Numbers and Improper Fractions", "y5Intro2", kEither, nullptr, nullptr, nullptr, true},
         {"y5Intro", "Command6", "Partitude", "y5fract5", kEither},
 
         {"y5Intro2", "Command1", kBothWays, "y5fract4", kShort, make<y5fract4>, "y5fracprint4"},

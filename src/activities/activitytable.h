@@ -3,10 +3,16 @@
 // it, its screen, its title, the prompt the menu writes into it, and its
 // worksheet. The menus, the screen registry, Exit and Print all read this one
 // table, so an activity is added by adding its row.
+#include "worksheets/generatedsheet.h"
+
 #include <QString>
 #include <QVector>
 
 class Form;
+
+namespace Random {
+class Source;
+}
 
 namespace Activities {
 
@@ -26,6 +32,8 @@ struct Row {
     // A designed worksheet's print form ("y2fracprint1"); nullptr when the
     // worksheet is generated from the activity's own questions.
     const char* printForm = nullptr;
+    // The worksheet made from 12 fresh questions when it is printed.
+    Worksheets::Sheet (*sheet)(Random::Source& rnd) = nullptr;
     bool subMenu = false; // the button opens another menu, not an activity
 };
 

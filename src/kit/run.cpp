@@ -3,6 +3,7 @@
 #include "activities/activitytable.h"
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"
+#include "runtime/random.h"
 #include "shell/activityform.h"
 #include "shell/module1.h"
 #include "worksheets/printforms.h"
@@ -123,4 +124,6 @@ void Run::print()
     const Activities::Row* row = Activities::forScreen(m_form.objectName());
     if (row && row->printForm)
         Worksheets::askAndPrint(QString::fromLatin1(row->printForm));
+    else if (row && row->sheet)
+        Worksheets::askAndPrintGenerated([row] { return row->sheet(Random::program()); });
 }

@@ -13,6 +13,9 @@ class QRectF;
 
 namespace Worksheets {
 
+// A generated sheet holds this many questions.
+inline constexpr int kQuestions = 12;
+
 struct Row {
     QString question; // "What is one half of 12?"
     QString answer;   // "6"

@@ -5,13 +5,20 @@
 #include "kit/parts/picturerows.h"
 #include "runtime/twips.h"
 
+#include "runtime/pictures.h"
+
+#include <QCoreApplication>
 #include <QLineEdit>
+#include <QPainter>
 
 namespace {
 constexpr double kBoxPoints = 24;
 constexpr int kBoxWidth = 1200; // twips: two large digits
 constexpr int kBoxHeight = 720;
 constexpr int kGap = 120;
+// On a worksheet the pictures stand in rows of ten, each this many twips.
+constexpr int kSheetPicturesPerRow = 10;
+constexpr double kSheetPicture = 380;
 } // namespace
 
 PicturesBoard::PicturesBoard(QWidget* parent)
@@ -70,6 +77,32 @@ void PicturesBoard::setAnswering(bool on)
 void PicturesBoard::focusAnswer()
 {
     Text1->setFocus();
+}
+
+Worksheets::Sheet PicturesBoard::worksheet(Random::Source& rnd)
+{
+    Worksheets::Sheet sheet;
+    sheet.title = QCoreApplication::translate("PicturesBoard", "Halves and Quarters 3");
+    sheet.instruction = QCoreApplication::translate("PicturesBoard", "Share the pictures into equal groups to find the answer.");
+    HalvesOfNumbers::Question q;
+    for (int i = 0; i < Worksheets::kQuestions; ++i) {
+        q = HalvesOfNumbers::draw(rnd, i ? &q : nullptr);
+        Worksheets::Row row;
+        row.question = q.instruction();
+        row.answer = QString::number(q.answer());
+        const int rows = (q.amount + kSheetPicturesPerRow - 1) / kSheetPicturesPerRow;
+        row.pictureHeight = rows * kSheetPicture;
+        const QPixmap picture = Pictures::get(QString::fromLatin1(Halves::kPictureSets[q.set - 1].file));
+        row.picture = [q, picture](QPainter& painter, const QRectF& box) {
+            const double size = std::min(kSheetPicture, box.width() / kSheetPicturesPerRow);
+            for (int n = 0; n < q.amount; ++n)
+                painter.drawPixmap(QRectF(box.left() + (n % kSheetPicturesPerRow) * size,
+                                          box.top() + (n / kSheetPicturesPerRow) * size, size * 0.92, size * 0.92),
+                                   picture, QRectF(picture.rect()));
+        };
+        sheet.rows.append(row);
+    }
+    return sheet;
 }
 
 void PicturesBoard::resizeEvent(QResizeEvent*)

@@ -4,6 +4,7 @@
 // the pictures into equal groups, each in its own colour.
 #include "fractions/halvesofnumbers.h"
 #include "kit/kitboard.h"
+#include "worksheets/generatedsheet.h"
 
 class AnswerChain;
 class PictureRows;
@@ -17,6 +18,9 @@ public:
     PictureRows* Picture2; // the amount, as pictures
     QLineEdit* Text1;      // the answer
     const HalvesOfNumbers::Question& question() const { return m_question; }
+
+    // 12 fresh questions, each with its pictures, and their answers.
+    static Worksheets::Sheet worksheet(Random::Source& rnd);
 
     void pose(Random::Source& rnd) override;
     QString instruction() const override;

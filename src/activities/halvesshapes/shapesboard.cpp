@@ -1,6 +1,15 @@
 #include "shapesboard.h"
 
 #include "kit/parts/shapeboard.h"
+#include "kit/parts/shapes.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+
+namespace {
+constexpr double kSheetShapeHeight = 1100; // twips
+constexpr double kSheetInset = 30;         // twips, so the outline is never clipped
+}
 
 ShapesBoard::ShapesBoard(QWidget* parent)
     : KitBoard(parent)
@@ -41,6 +50,29 @@ void ShapesBoard::setAnswering(bool on)
 void ShapesBoard::focusAnswer()
 {
     Shape1->setFocus();
+}
+
+Worksheets::Sheet ShapesBoard::worksheet(Random::Source& rnd)
+{
+    Worksheets::Sheet sheet;
+    sheet.title = QCoreApplication::translate("ShapesBoard", "Halves and Quarters 2");
+    sheet.instruction = QCoreApplication::translate("ShapesBoard", "Colour the part of each shape that the question asks for.");
+    HalvesShapes::Question q;
+    for (int i = 0; i < Worksheets::kQuestions; ++i) {
+        q = HalvesShapes::draw(rnd, i ? &q : nullptr);
+        Worksheets::Row row;
+        row.question = q.instruction();
+        row.answer = QCoreApplication::translate("ShapesBoard", "%1 of the %2 parts").arg(q.partsToColour()).arg(q.parts);
+        row.pictureHeight = kSheetShapeHeight;
+        row.picture = [q](QPainter& painter, const QRectF& box) {
+            painter.setBrush(Qt::white);
+            const QRectF inside = box.adjusted(kSheetInset, kSheetInset, -kSheetInset, -kSheetInset);
+            for (const QPainterPath& part : shapeParts(q.kind, q.parts, inside))
+                painter.drawPath(part);
+        };
+        sheet.rows.append(row);
+    }
+    return sheet;
 }
 
 void ShapesBoard::resizeEvent(QResizeEvent*)

@@ -3,6 +3,7 @@
 // drawn large, whose parts the child colours to make the fraction asked.
 #include "fractions/halvesshapes.h"
 #include "kit/kitboard.h"
+#include "worksheets/generatedsheet.h"
 
 class ShapeBoard;
 
@@ -13,6 +14,9 @@ public:
 
     ShapeBoard* Shape1; // the shape the child colours
     const HalvesShapes::Question& question() const { return m_question; }
+
+    // 12 fresh questions, each with its shape to colour, and their answers.
+    static Worksheets::Sheet worksheet(Random::Source& rnd);
 
     void pose(Random::Source& rnd) override;
     QString instruction() const override;
