@@ -83,6 +83,13 @@ QString numberWord(int n)
     return n >= 0 && n <= kLargestNumberWord ? QString::fromLatin1(kNumbers[n]) : QString::number(n);
 }
 
+QString capitalised(QString text)
+{
+    if (!text.isEmpty())
+        text[0] = text[0].toUpper();
+    return text;
+}
+
 QString partName(int bottom)
 {
     const PartNames* p = partNames(bottom);

@@ -59,5 +59,7 @@ QString partName(int bottom);
 QString partsName(int bottom);
 // A whole number in words up to twenty ("three"), in figures beyond.
 QString numberWord(int n);
+// The text with its first letter a capital, to start a sentence.
+QString capitalised(QString text);
 
 } // namespace Fractions

@@ -15,13 +15,6 @@ QString tr(const char* text)
     return QCoreApplication::translate("HalvesOfNumbers", text);
 }
 
-QString capitalised(QString text)
-{
-    if (!text.isEmpty())
-        text[0] = text[0].toUpper();
-    return text;
-}
-
 struct Asked {
     int top;
     int bottom;
@@ -36,7 +29,7 @@ QString Question::instruction() const
 
 QString Question::statement() const
 {
-    return tr("%1 of %2 is %3.").arg(capitalised(Fractions::words(top, bottom))).arg(amount).arg(answer());
+    return tr("%1 of %2 is %3.").arg(Fractions::capitalised(Fractions::words(top, bottom))).arg(amount).arg(answer());
 }
 
 Question draw(Random::Source& rnd, const Question* last)
@@ -76,7 +69,7 @@ QString hint(const Question& q, const QString& picname)
                               .arg(each);
     const QString groups = q.top == 1 ? tr("%1 is 1 group: %2 %3.") : tr("%1 is %4 groups: %2 %3.");
     return share + QLatin1Char(' ')
-        + groups.arg(capitalised(Fractions::words(q.top, q.bottom))).arg(q.answer()).arg(picname).arg(q.top);
+        + groups.arg(Fractions::capitalised(Fractions::words(q.top, q.bottom))).arg(q.answer()).arg(picname).arg(q.top);
 }
 
 } // namespace HalvesOfNumbers

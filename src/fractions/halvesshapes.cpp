@@ -14,13 +14,6 @@ QString tr(const char* text)
     return QCoreApplication::translate("HalvesShapes", text);
 }
 
-QString capitalised(QString text)
-{
-    if (!text.isEmpty())
-        text[0] = text[0].toUpper();
-    return text;
-}
-
 // "1 part", "3 parts"
 QString partCount(int n)
 {
@@ -78,14 +71,14 @@ Verdict check(const Question& q, int coloured)
     return Verdict::wrong(tr("You coloured %1 of the %2 parts: that is %3. %4 is %5.")
                               .arg(coloured)
                               .arg(q.parts)
-                              .arg(Fractions::words(coloured, q.parts), capitalised(q.fractionWords()),
+                              .arg(Fractions::words(coloured, q.parts), Fractions::capitalised(q.fractionWords()),
                                    partCount(q.partsToColour())));
 }
 
 QString hint(const Question& q, int coloured)
 {
     const QString cut = tr("The %1 is cut into %2 equal parts.").arg(shapeNoun(q.kind)).arg(q.parts);
-    const QString asked = tr("%1 is %2 of them.").arg(capitalised(q.fractionWords())).arg(q.partsToColour());
+    const QString asked = tr("%1 is %2 of them.").arg(Fractions::capitalised(q.fractionWords())).arg(q.partsToColour());
     const QString now = coloured == 0 ? tr("You have not coloured any yet.") : tr("You have coloured %1.").arg(coloured);
     return cut + QLatin1Char(' ') + asked + QLatin1Char(' ') + now;
 }

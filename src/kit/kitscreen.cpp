@@ -30,13 +30,6 @@ constexpr int kLineTop = 1200;
 constexpr int kLineHeight = 1140;
 constexpr int kBoardTop = kLineTop + kLineHeight + 60;
 constexpr int kBoardHeight = 6420 - kBoardTop;
-constexpr int kPanelLeft = 1300;
-constexpr int kPanelTop = 1320;
-constexpr int kPanelWidth = Form::kScreenScaleWidthTwips - 2 * kPanelLeft;
-constexpr int kPanelHeight = 3900;
-constexpr int kOptionsTop = 5520;
-constexpr int kOptionsWidth = 4320;
-constexpr int kOptionsHeight = 840;
 constexpr int kEndMargin = 30; // pixels between the end-of-run text and its edge
 
 const QColor kInstructionInk{255, 255, 255};
@@ -69,8 +62,6 @@ KitScreen::KitScreen(const QString& name, KitBoard* board)
     Frame1->setObjectName(QStringLiteral("Frame1"));
     Frame2->setObjectName(QStringLiteral("Frame2"));
     m_board->setParent(Frame2);
-    Option1->setParent(Frame1);
-    Option2->setParent(Frame1);
     layOut();
     raiseButtons();
 
@@ -123,24 +114,8 @@ void KitScreen::layOut()
     m_board->setGeometry(Frame2->rect());
     Label8->setMargin(kEndMargin);
 
-    // The opening panel.
-    Twips::place(Picture1, 0, kPanelTop, kPanelWidth, kPanelHeight);
-    Twips::place(Label4, 0, 360, kPanelWidth, 900);
-    Twips::place(Label3, 0, 1380, kPanelWidth, 600);
-    Twips::place(Label6, 600, 2160, kPanelWidth - 1200, 1200);
-
-    // The run's length, under the reward picture.
-    Twips::place(Frame1, kMargin, kOptionsTop, kOptionsWidth, kOptionsHeight);
-    Frame1->setStyleSheet(
-        QStringLiteral("QFrame#Frame1 { border: 2px solid rgba(255, 255, 255, 150); border-radius: 10px; }"));
-    for (QRadioButton* option : {Option1, Option2}) {
-        option->setFont(Twips::font(QStringLiteral("Times New Roman"), 12, true));
-        QPalette palette = option->palette();
-        palette.setColor(QPalette::WindowText, kInstructionInk);
-        option->setPalette(palette);
-    }
-    Twips::place(Option1, 240, 180, 1920, 480);
-    Twips::place(Option2, 2280, 180, 1920, 480);
+    layOutOpeningPanel(Label4, Label3, Label6);
+    layOutOptions(Frame1, kInstructionInk);
 }
 
 void KitScreen::Form_Load()

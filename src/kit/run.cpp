@@ -88,6 +88,11 @@ void Run::wrong(const QString& message, FormTimer* pace, FormTimer* rewardDelay)
         pace->setEnabled(true); // a new question: a wrong one is not asked again
 }
 
+void Run::showRetryScreen()
+{
+    showreward();
+}
+
 void Run::keep(const QString& message, FormTimer* back)
 {
     showMessage(message);

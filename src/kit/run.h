@@ -50,6 +50,9 @@ public:
     // `message` shows and `back` brings the instruction and the same question back.
     void keep(const QString& message, FormTimer* back);
 
+    // The retry screen, when a screen has held it back (see wrong()).
+    void showRetryScreen();
+
     void showMessage(const QString& text);
     void showInstruction();
 

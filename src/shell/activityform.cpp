@@ -6,6 +6,7 @@
 #include "module1.h"
 #include "runtime/twips.h"
 
+#include <QFrame>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -39,6 +40,17 @@ constexpr int kReadyTop = 1200;
 constexpr int kReadyWidth = 4860;
 constexpr int kReadyHeight = 3930;
 constexpr int kShortRun = 10;
+
+// The opening panel of the board activities, and their options under the
+// reward picture (twips inside the window).
+constexpr int kPanelLeft = 1300;
+constexpr int kPanelTop = 1320;
+constexpr int kPanelWidth = Form::kScreenScaleWidthTwips - 2 * kPanelLeft;
+constexpr int kPanelHeight = 3900;
+constexpr int kOptionsLeft = 120;
+constexpr int kOptionsTop = 5520;
+constexpr int kOptionsWidth = 4320;
+constexpr int kOptionsHeight = 840;
 constexpr int kLongRun = 20;
 } // namespace
 
@@ -89,6 +101,31 @@ void ActivityForm::loadButtonPictures()
     setButtonPicture(cmdcheck, QStringLiteral("ico\\quest.ico"));
     setButtonPicture(cmdhint, QStringLiteral("ico\\hand.ico"));
     setIconPicture(QStringLiteral("ico\\fraction.ico"));
+}
+
+void ActivityForm::layOutOpeningPanel(QLabel* title, QLabel* goodLuck, QLabel* prompt)
+{
+    Twips::place(Picture1, 0, kPanelTop, kPanelWidth, kPanelHeight);
+    Twips::place(title, 0, 360, kPanelWidth, 900);
+    Twips::place(goodLuck, 0, 1380, kPanelWidth, 600);
+    Twips::place(prompt, 600, 2160, kPanelWidth - 1200, 1200);
+}
+
+void ActivityForm::layOutOptions(QFrame* frame, const QColor& ink)
+{
+    Twips::place(frame, kOptionsLeft, kOptionsTop, kOptionsWidth, kOptionsHeight);
+    frame->setStyleSheet(
+        QStringLiteral("QFrame#%1 { border: 2px solid rgba(255, 255, 255, 150); border-radius: 10px; }")
+            .arg(frame->objectName()));
+    for (QRadioButton* option : {Option1, Option2}) {
+        option->setParent(frame);
+        option->setFont(Twips::font(QStringLiteral("Times New Roman"), 12, true));
+        QPalette palette = option->palette();
+        palette.setColor(QPalette::WindowText, ink);
+        option->setPalette(palette);
+    }
+    Twips::place(Option1, 240, 180, 1920, 480);
+    Twips::place(Option2, 2280, 180, 1920, 480);
 }
 
 void ActivityForm::showQuestionsChoice()

@@ -7,6 +7,7 @@
 #include "runtime/form.h"
 
 class QColor;
+class QFrame;
 class QLabel;
 class Run;
 class QPushButton;
@@ -47,6 +48,12 @@ public:
     // Puts the button row above everything else: a tall reward picture
     // reaches up behind it.
     void raiseButtons();
+    // The opening panel Picture1 as the board activities lay it out: the
+    // title, "Good Luck." and the menu's prompt, across the middle.
+    void layOutOpeningPanel(QLabel* title, QLabel* goodLuck, QLabel* prompt);
+    // The 10/20 options in their own frame, under the reward picture.
+    void layOutOptions(QFrame* frame, const QColor& ink);
+
     // Ticks the option that matches the run's length.
     void showQuestionsChoice();
     // Hides the end-of-run label, moves it to the middle of the screen and

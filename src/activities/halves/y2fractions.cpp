@@ -1,5 +1,6 @@
 #include "y2fractions.h"
 
+#include "kit/run.h"
 #include "picturecell.h"
 #include "rewards/grey.h"
 #include "runtime/formtimer.h"
@@ -7,7 +8,6 @@
 #include "runtime/picturebox.h"
 #include "runtime/twips.h"
 #include "shell/module1.h"
-#include "kit/run.h"
 
 #include <QFrame>
 #include <QLabel>
@@ -31,12 +31,6 @@ constexpr int kLabelTop = kBoardTop + kBoardHeight + 60;
 constexpr int kLabelHeight = 900;
 constexpr int kColumns = 4;
 constexpr int kCellGap = 90;
-constexpr int kPanelTop = 1320;
-constexpr int kPanelWidth = Form::kScreenScaleWidthTwips - 2 * 1300;
-constexpr int kPanelHeight = 3900;
-constexpr int kOptionsTop = 5520;
-constexpr int kOptionsWidth = 4320;
-constexpr int kOptionsHeight = 840;
 constexpr int kEndMargin = 30; // pixels between the end-of-run text and the reward picture
 
 const QColor kInstructionInk{255, 255, 255};
@@ -71,8 +65,6 @@ Y2fractions::Y2fractions()
         connect(cell, &QAbstractButton::clicked, this, [this, i] { Image1_Click(i); });
         Image1.append(cell);
     }
-    Option1->setParent(Frame1);
-    Option2->setParent(Frame1);
     layOut();
 
     // Until Start there is no question to check or hint at.
@@ -121,24 +113,8 @@ void Y2fractions::layOut()
                      pitchX - kCellGap, pitchY - kCellGap);
     Label8->setMargin(kEndMargin);
 
-    // The opening panel.
-    Twips::place(Picture1, 0, kPanelTop, kPanelWidth, kPanelHeight);
-    Twips::place(Label4, 0, 360, kPanelWidth, 900);
-    Twips::place(Label3, 0, 1380, kPanelWidth, 600);
-    Twips::place(Label6, 600, 2160, kPanelWidth - 1200, 1200);
-
-    // The run's length, under the reward picture.
-    Twips::place(Frame1, kMargin, kOptionsTop, kOptionsWidth, kOptionsHeight);
-    Frame1->setStyleSheet(
-        QStringLiteral("QFrame#Frame1 { border: 2px solid rgba(255, 255, 255, 150); border-radius: 10px; }"));
-    for (QRadioButton* option : {Option1, Option2}) {
-        option->setFont(Twips::font(QStringLiteral("Times New Roman"), 12, true));
-        QPalette palette = option->palette();
-        palette.setColor(QPalette::WindowText, kInstructionInk);
-        option->setPalette(palette);
-    }
-    Twips::place(Option1, 240, 180, 1920, 480);
-    Twips::place(Option2, 2280, 180, 1920, 480);
+    layOutOpeningPanel(Label4, Label3, Label6);
+    layOutOptions(Frame1, kInstructionInk);
 }
 
 void Y2fractions::Form_Load()

@@ -1,13 +1,13 @@
 #include "y5fract4.h"
 
 #include "kit/parts/answerbox.h"
+#include "kit/run.h"
 #include "rewards/grey.h"
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"
 #include "runtime/picturebox.h"
 #include "runtime/random.h"
 #include "shell/module1.h"
-#include "kit/run.h"
 
 #include <QFrame>
 #include <QLabel>

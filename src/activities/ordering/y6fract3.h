@@ -82,6 +82,8 @@ public:
     static const QString kStartInstruction;
     static const QString kRightOrder;
     static const QString kWrongOrder;
+    // The arrows, the pointers' words and the feedback line.
+    static const QColor kHighlight;
 
 public slots:
     void Form_Load();
@@ -108,6 +110,7 @@ public slots:
 
 private:
     void buildBoard();
+    void layOut();
     void buildOpeningPanel();
     void nextQuestion();
     void showPointers(bool on);
