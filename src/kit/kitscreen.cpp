@@ -120,12 +120,7 @@ void KitScreen::layOut()
 
 void KitScreen::Form_Load()
 {
-    loadButtonPictures();
-    Module1::setupform(*this);
-    setControlBackColour(Picture1, Module1::kActivityBack);
-    setControlBackColour(Option1, Module1::kActivityBack);
-    setControlBackColour(Option2, Module1::kActivityBack);
-    Picture1->show();
+    loadAsABoardActivity();
 
     Module1::counter = 0;
     Module1::activitytitle = Label4->text();

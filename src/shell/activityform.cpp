@@ -128,6 +128,16 @@ void ActivityForm::layOutOptions(QFrame* frame, const QColor& ink)
     Twips::place(Option2, 2280, 180, 1920, 480);
 }
 
+void ActivityForm::loadAsABoardActivity()
+{
+    loadButtonPictures();
+    Module1::setupform(*this);
+    setControlBackColour(Picture1, Module1::kActivityBack);
+    setControlBackColour(Option1, Module1::kActivityBack);
+    setControlBackColour(Option2, Module1::kActivityBack);
+    Picture1->show();
+}
+
 void ActivityForm::showQuestionsChoice()
 {
     Option1->setChecked(Module1::questions == kShortRun);

@@ -54,6 +54,11 @@ public:
     // The 10/20 options in their own frame, under the reward picture.
     void layOutOptions(QFrame* frame, const QColor& ink);
 
+    // The first load steps of the board activities: the buttons' pictures,
+    // setupform, the back colour of the panel and the options, the opening
+    // panel shown.
+    void loadAsABoardActivity();
+
     // Ticks the option that matches the run's length.
     void showQuestionsChoice();
     // Hides the end-of-run label, moves it to the middle of the screen and

@@ -119,12 +119,7 @@ void Y2fractions::layOut()
 
 void Y2fractions::Form_Load()
 {
-    loadButtonPictures();
-    Module1::setupform(*this);
-    setControlBackColour(Picture1, Module1::kActivityBack);
-    setControlBackColour(Option1, Module1::kActivityBack);
-    setControlBackColour(Option2, Module1::kActivityBack);
-    Picture1->show();
+    loadAsABoardActivity();
 
     Module1::counter = 0;
     Module1::activitytitle = QStringLiteral("Halves and Quarters 1");
