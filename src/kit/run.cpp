@@ -36,11 +36,6 @@ bool Run::hintsAllowed()
     return challenge == 0;
 }
 
-bool Run::inChallenge()
-{
-    return challenge > 0;
-}
-
 bool Run::right(const QString& statement, FormTimer* pace)
 {
     ++counter;

@@ -58,7 +58,6 @@ public:
 
     // Hints are for practice only.
     static bool hintsAllowed();
-    static bool inChallenge();
 
     // Back to the menu that lists this activity.
     void exit();
