@@ -1,17 +1,13 @@
 #pragma once
 // A paint device that keeps what is painted on it instead of pixels: every
-// piece of text with the box it covers, and every picture with the place it
-// is drawn. A widget rendered onto it shows what a child would read where.
+// piece of text with the box it covers, and every picture with its place.
 #include <QFontMetricsF>
-#include <QPaintDevice>
+#include <QImage>
 #include <QPaintEngine>
-#include <QPixmap>
 #include <QTextItem>
-#include <QTransform>
-#include <QVector>
 #include <QWidget>
 
-class PaintRecorder : public QPaintDevice {
+class PaintRecorder : public QImage {
 public:
     struct Text {
         QString text;
@@ -19,7 +15,7 @@ public:
     };
 
     // Renders the widget, at its present size, onto the recorder.
-    explicit PaintRecorder(QWidget& widget) : m_size(widget.size()), m_engine(this)
+    explicit PaintRecorder(QWidget& widget) : QImage(widget.size(), QImage::Format_ARGB32), m_engine(this)
     {
         widget.render(this, QPoint(), QRegion(), QWidget::DrawWindowBackground);
     }
@@ -27,35 +23,9 @@ public:
     QVector<Text> texts;
     QVector<QRectF> pictures;
 
-    // The first text that reads exactly `text`; an empty box when none does.
-    QRectF boxOf(const QString& text) const
-    {
-        for (const Text& t : texts)
-            if (t.text == text)
-                return t.box;
-        return QRectF();
-    }
-
     QPaintEngine* paintEngine() const override { return &m_engine; }
 
-protected:
-    int metric(PaintDeviceMetric metric) const override
-    {
-        switch (metric) {
-        case PdmWidth: return m_size.width();
-        case PdmHeight: return m_size.height();
-        case PdmDpiX: case PdmDpiY: case PdmPhysicalDpiX: case PdmPhysicalDpiY: return kDpi;
-        case PdmDepth: return kDepth;
-        case PdmDevicePixelRatio: return 1;
-        case PdmDevicePixelRatioScaled: return int(devicePixelRatioFScale());
-        default: return QPaintDevice::metric(metric);
-        }
-    }
-
 private:
-    static constexpr int kDpi = 96;
-    static constexpr int kDepth = 32;
-
     class Engine : public QPaintEngine {
     public:
         explicit Engine(PaintRecorder* owner) : QPaintEngine(AllFeatures), m_owner(owner) {}
@@ -77,8 +47,7 @@ private:
         {
             m_owner->pictures << m_transform.mapRect(r);
         }
-        // Shapes and lines are not kept: the engine's own versions of the
-        // rest all come down to these two.
+        // Shapes and lines are not kept: the engine's other drawing comes down to these.
         void drawPath(const QPainterPath&) override {}
         void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
 
@@ -87,6 +56,5 @@ private:
         QTransform m_transform;
     };
 
-    QSize m_size;
     mutable Engine m_engine;
 };

@@ -1,16 +1,12 @@
-// The window's close box is one more way back: on each screen it leads where
-// the screen's own way back leads, and only the title screen's ends the
-// program, as its Exit does.
+// The close box leads where each screen's own way back leads; only the title
+// screen's ends the program, as its Exit does.
 #include "runtime/form.h"
 #include "testsupport.h"
 
 #include <QAbstractButton>
-#include <QCloseEvent>
-#include <QWindow>
 #include <QtTest>
 
 namespace {
-
 struct Row {
     const char* tag;
     const char* under;  // the screen shown first, or nullptr
@@ -26,85 +22,63 @@ const Row kRows[] = {
     {"title on a first run stays", nullptr, nullptr, "Titlefrm", "Titlefrm", true},
     {"settings go on as OK", nullptr, nullptr, "Form1", "Year"},
     {"year menu goes through its door", nullptr, nullptr, "Year", "Titlefrm"},
-    {"y2Intro says Goodbye", nullptr, nullptr, "y2Intro", "Year"},
-    {"y3Intro says Goodbye", nullptr, nullptr, "y3Intro", "Year"},
-    {"y4Intro says Goodbye", nullptr, nullptr, "y4Intro", "Year"},
-    {"y5Intro says Goodbye", nullptr, nullptr, "y5Intro", "Year"},
-    {"y5Intro2 says Goodbye", nullptr, nullptr, "y5Intro2", "y5Intro"},
-    {"y6Intro says Goodbye", nullptr, nullptr, "y6Intro", "Year"},
+    {"activity menu says Goodbye", nullptr, nullptr, "y2Intro", "Year"},
+    {"second Year 5 menu says Goodbye", nullptr, nullptr, "y5Intro2", "y5Intro"},
     {"coming soon says Goodbye", "y6Intro", "Command3", "Comingsoon", "y6Intro"},
     {"ordering help closes", "Y6fract3", nullptr, "orderhelp", "Y6fract3"},
     {"certificate leaves as its door", "Y6fract3", nullptr, "Welldone", "Y6fract3"},
     {"retry screen closes", "Y6fract3", nullptr, "Reward", "Y6fract3"},
-    {"y2fracprint1 closes", nullptr, nullptr, "y2fracprint1", ""},
-    {"y5fracprint4 closes", nullptr, nullptr, "y5fracprint4", ""},
-    {"y6fracprint3 closes", nullptr, nullptr, "y6fracprint3", ""},
+    {"worksheet screen closes", nullptr, nullptr, "y5fracprint4", ""},
 };
-
-// What the window system does when the child clicks the close box: it asks
-// the screen's window to close, and the window passes the screen a
-// spontaneous close event.
-void pressCloseBox(Form* form)
-{
-    QVERIFY(form->windowHandle());
-    QCloseEvent close;
-    QCoreApplication::sendEvent(form->windowHandle(), &close);
-}
-
 } // namespace
 
 class TestCloseBox : public QObject {
     Q_OBJECT
 private slots:
-    void closeBoxIsTheWayBack_data();
-    void closeBoxIsTheWayBack();
+    void closeBoxIsTheWayBack_data()
+    {
+        QTest::addColumn<int>("row");
+        for (int i = 0; i < int(std::size(kRows)); ++i)
+            QTest::newRow(kRows[i].tag) << i;
+    }
+
+    void closeBoxIsTheWayBack()
+    {
+        QFETCH(int, row);
+        const Row& r = kRows[row];
+        world.fresh();
+        if (!r.firstRun) {
+            TestSupport::writeBytes(world.settingsFile(QStringLiteral("primary.inf")), "0\r\n");
+            TestSupport::writeBytes(world.settingsFile(QStringLiteral("sound.inf")), "0\r\n");
+            Module1::version = Module1::soundsetting = QStringLiteral("0");
+        }
+        Module1::yearlabel = QStringLiteral("Year 6");
+        Module1::streak = 20;
+        if (r.under)
+            Forms::show(QString::fromLatin1(r.under));
+        if (r.via)
+            Forms::find(QString::fromLatin1(r.under))->findChild<QAbstractButton*>(QString::fromLatin1(r.via))->click();
+        else
+            Forms::show(QString::fromLatin1(r.screen));
+        TestSupport::flushUnloads();
+        Form* form = Forms::find(QString::fromLatin1(r.screen));
+        QVERIFY(form && form->isVisible());
+        TestSupport::pressCloseBox(form);
+        TestSupport::flushUnloads();
+        const QStringList after = QString::fromLatin1(r.after).split(QLatin1Char(','), Qt::SkipEmptyParts);
+        QCOMPARE(TestSupport::visibleForms(), after);
+        QCOMPARE(Forms::programEnded(), r.ends);
+
+        // A close the program makes itself is no press of the close box.
+        if (Form* still = Forms::find(after.value(0))) {
+            still->close();
+            QCOMPARE(TestSupport::visibleForms(), after);
+        }
+    }
 
 private:
     TestSupport::World world;
 };
-
-void TestCloseBox::closeBoxIsTheWayBack_data()
-{
-    QTest::addColumn<int>("row");
-    for (int i = 0; i < int(std::size(kRows)); ++i)
-        QTest::newRow(kRows[i].tag) << i;
-}
-
-void TestCloseBox::closeBoxIsTheWayBack()
-{
-    QFETCH(int, row);
-    const Row& r = kRows[row];
-    world.fresh();
-    if (!r.firstRun) {
-        TestSupport::writeBytes(world.settingsFile(QStringLiteral("primary.inf")), "0\r\n");
-        TestSupport::writeBytes(world.settingsFile(QStringLiteral("sound.inf")), "0\r\n");
-        Module1::version = Module1::soundsetting = QStringLiteral("0");
-    }
-    Module1::yearlabel = QStringLiteral("Year 6");
-    Module1::streak = 20;
-
-    if (r.under)
-        Forms::show(QString::fromLatin1(r.under));
-    if (r.via)
-        Forms::find(QString::fromLatin1(r.under))->findChild<QAbstractButton*>(QString::fromLatin1(r.via))->click();
-    else
-        Forms::show(QString::fromLatin1(r.screen));
-    TestSupport::flushUnloads();
-    Form* form = Forms::find(QString::fromLatin1(r.screen));
-    QVERIFY(form && form->isVisible());
-
-    pressCloseBox(form);
-    TestSupport::flushUnloads();
-    QStringList after = QString::fromLatin1(r.after).split(QLatin1Char(','), Qt::SkipEmptyParts);
-    QCOMPARE(TestSupport::visibleForms(), after);
-    QCOMPARE(Forms::programEnded(), r.ends);
-
-    // A close the program makes itself is no press of the close box.
-    if (Form* still = Forms::find(after.value(0))) {
-        still->close();
-        QCOMPARE(TestSupport::visibleForms(), after);
-    }
-}
 
 QTEST_MAIN(TestCloseBox)
 #include "tst_closebox.moc"
