@@ -34,6 +34,21 @@ struct Sheet {
     QVector<Row> rows;   // 12 of them
 };
 
+// A sheet of kQuestions questions drawn one after another, each by
+// draw(last) with the one before it (nullptr for the first), so none comes
+// twice in a row; toRow turns each into its row.
+template <class Question, class Draw, class ToRow>
+Sheet drawSheet(const QString& title, const QString& instruction, Draw draw, ToRow toRow)
+{
+    Sheet sheet{title, instruction, {}};
+    Question question{};
+    for (int i = 0; i < kQuestions; ++i) {
+        question = draw(i ? &question : nullptr);
+        sheet.rows.append(toRow(question));
+    }
+    return sheet;
+}
+
 // Prints the two pages, the questions and then the answers, through the
 // program's printer. Returns whether it printed; a failure has been told to
 // the child with the same messages as the designed worksheets.

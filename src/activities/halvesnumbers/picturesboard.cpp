@@ -81,28 +81,26 @@ void PicturesBoard::focusAnswer()
 
 Worksheets::Sheet PicturesBoard::worksheet(Random::Source& rnd)
 {
-    Worksheets::Sheet sheet;
-    sheet.title = QCoreApplication::translate("PicturesBoard", "Halves and Quarters 3");
-    sheet.instruction = QCoreApplication::translate("PicturesBoard", "Share the pictures into equal groups to find the answer.");
-    HalvesOfNumbers::Question q;
-    for (int i = 0; i < Worksheets::kQuestions; ++i) {
-        q = HalvesOfNumbers::draw(rnd, i ? &q : nullptr);
-        Worksheets::Row row;
-        row.question = q.instruction();
-        row.answer = QString::number(q.answer());
-        const int rows = (q.amount + kSheetPicturesPerRow - 1) / kSheetPicturesPerRow;
-        row.pictureHeight = rows * kSheetPicture;
-        const QPixmap picture = Pictures::get(QString::fromLatin1(Halves::kPictureSets[q.set - 1].file));
-        row.picture = [q, picture](QPainter& painter, const QRectF& box) {
-            const double size = std::min(kSheetPicture, box.width() / kSheetPicturesPerRow);
-            for (int n = 0; n < q.amount; ++n)
-                painter.drawPixmap(QRectF(box.left() + (n % kSheetPicturesPerRow) * size,
-                                          box.top() + (n / kSheetPicturesPerRow) * size, size * 0.92, size * 0.92),
-                                   picture, QRectF(picture.rect()));
-        };
-        sheet.rows.append(row);
-    }
-    return sheet;
+    return Worksheets::drawSheet<HalvesOfNumbers::Question>(
+        QCoreApplication::translate("PicturesBoard", "Halves and Quarters 3"),
+        QCoreApplication::translate("PicturesBoard", "Share the pictures into equal groups to find the answer."),
+        [&rnd](const HalvesOfNumbers::Question* last) { return HalvesOfNumbers::draw(rnd, last); },
+        [](const HalvesOfNumbers::Question& q) {
+            Worksheets::Row row;
+            row.question = q.instruction();
+            row.answer = QString::number(q.answer());
+            const int rows = (q.amount + kSheetPicturesPerRow - 1) / kSheetPicturesPerRow;
+            row.pictureHeight = rows * kSheetPicture;
+            const QPixmap picture = Pictures::get(QString::fromLatin1(Halves::kPictureSets[q.set - 1].file));
+            row.picture = [q, picture](QPainter& painter, const QRectF& box) {
+                const double size = std::min(kSheetPicture, box.width() / kSheetPicturesPerRow);
+                for (int n = 0; n < q.amount; ++n)
+                    painter.drawPixmap(QRectF(box.left() + (n % kSheetPicturesPerRow) * size,
+                                              box.top() + (n / kSheetPicturesPerRow) * size, size * 0.92, size * 0.92),
+                                       picture, QRectF(picture.rect()));
+            };
+            return row;
+        });
 }
 
 void PicturesBoard::resizeEvent(QResizeEvent*)

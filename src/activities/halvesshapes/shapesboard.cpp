@@ -54,25 +54,23 @@ void ShapesBoard::focusAnswer()
 
 Worksheets::Sheet ShapesBoard::worksheet(Random::Source& rnd)
 {
-    Worksheets::Sheet sheet;
-    sheet.title = QCoreApplication::translate("ShapesBoard", "Halves and Quarters 2");
-    sheet.instruction = QCoreApplication::translate("ShapesBoard", "Colour the part of each shape that the question asks for.");
-    HalvesShapes::Question q;
-    for (int i = 0; i < Worksheets::kQuestions; ++i) {
-        q = HalvesShapes::draw(rnd, i ? &q : nullptr);
-        Worksheets::Row row;
-        row.question = q.instruction();
-        row.answer = QCoreApplication::translate("ShapesBoard", "%1 of the %2 parts").arg(q.partsToColour()).arg(q.parts);
-        row.pictureHeight = kSheetShapeHeight;
-        row.picture = [q](QPainter& painter, const QRectF& box) {
-            painter.setBrush(Qt::white);
-            const QRectF inside = box.adjusted(kSheetInset, kSheetInset, -kSheetInset, -kSheetInset);
-            for (const QPainterPath& part : shapeParts(q.kind, q.parts, inside))
-                painter.drawPath(part);
-        };
-        sheet.rows.append(row);
-    }
-    return sheet;
+    return Worksheets::drawSheet<HalvesShapes::Question>(
+        QCoreApplication::translate("ShapesBoard", "Halves and Quarters 2"),
+        QCoreApplication::translate("ShapesBoard", "Colour the part of each shape that the question asks for."),
+        [&rnd](const HalvesShapes::Question* last) { return HalvesShapes::draw(rnd, last); },
+        [](const HalvesShapes::Question& q) {
+            Worksheets::Row row;
+            row.question = q.instruction();
+            row.answer = QCoreApplication::translate("ShapesBoard", "%1 of the %2 parts").arg(q.partsToColour()).arg(q.parts);
+            row.pictureHeight = kSheetShapeHeight;
+            row.picture = [q](QPainter& painter, const QRectF& box) {
+                painter.setBrush(Qt::white);
+                const QRectF inside = box.adjusted(kSheetInset, kSheetInset, -kSheetInset, -kSheetInset);
+                for (const QPainterPath& part : shapeParts(q.kind, q.parts, inside))
+                    painter.drawPath(part);
+            };
+            return row;
+        });
 }
 
 void ShapesBoard::resizeEvent(QResizeEvent*)
