@@ -19,6 +19,7 @@ constexpr int kGap = 120;
 // On a worksheet the pictures stand in rows of ten, each this many twips.
 constexpr int kSheetPicturesPerRow = 10;
 constexpr double kSheetPicture = 380;
+constexpr double kSheetPictureFill = 0.92; // of its place: a gap between pictures
 } // namespace
 
 PicturesBoard::PicturesBoard(QWidget* parent)
@@ -96,7 +97,8 @@ Worksheets::Sheet PicturesBoard::worksheet(Random::Source& rnd)
                 const double size = std::min(kSheetPicture, box.width() / kSheetPicturesPerRow);
                 for (int n = 0; n < q.amount; ++n)
                     painter.drawPixmap(QRectF(box.left() + (n % kSheetPicturesPerRow) * size,
-                                              box.top() + (n / kSheetPicturesPerRow) * size, size * 0.92, size * 0.92),
+                                              box.top() + (n / kSheetPicturesPerRow) * size, size * kSheetPictureFill,
+                                              size * kSheetPictureFill),
                                        picture, QRectF(picture.rect()));
             };
             return row;
