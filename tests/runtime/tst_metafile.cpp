@@ -12,10 +12,7 @@
 #include <QtTest>
 #include <vector>
 
-struct Probe {
-    int x, y;
-    QRgb rgb;
-};
+struct Probe { int x, y; QRgb rgb; };
 using Probes = QVector<Probe>;
 Q_DECLARE_METATYPE(Probes)
 
@@ -279,7 +276,6 @@ void TestMetafile::textIsClippedSpacedMovedAndTurned()
     // the records give are not used.
     const QRect two = inked(render(textPage().textAlign(1).moveTo(100, 500).textOut(900, 900, "H").textOut(900, 900, "H").bytes(), size));
     QCOMPARE(two, inked(render(textPage().textOut(100, 500, "HH").bytes(), size)));
-    QVERIFY(two.width() > 100);
 
     // A quarter turn anticlockwise: the line runs up from (200, 200), and
     // with top alignment the letters hang to the right of it.
