@@ -206,7 +206,6 @@ void TestYear::doorLeadsToTitleAndBack()
     QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("Titlefrm")});
     auto* title = Forms::find<Titlefrm>();
     QCOMPARE(title->Command1->text(), QStringLiteral("Cancel"));
-    QVERIFY(title->Command2->isEnabled());
 
     title->Command1->click();
     TestSupport::flushUnloads();
@@ -228,7 +227,6 @@ void TestYear::webLabelOpensTheSite()
     emit year->Label3->linkActivated(QStringLiteral("ignored"));
     QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
     QCOMPARE(browser.opened.size(), 1);
-    QCOMPARE(browser.opened[0].scheme(), QStringLiteral("https"));
     QVERIFY(browser.opened[0].host().contains(QStringLiteral("partitude")));
 }
 
