@@ -83,7 +83,6 @@ void TestYear::yearButtonsSetTheYearAndTheRun()
     // A run length left by an earlier choice that differs from this one.
     streak = run == 10 ? 20 : 10;
     Year* year = showYear(edition);
-    QCOMPARE(questions, streak);
     // The arrow has no words of its own: a screen reader says the year.
     QCOMPARE(year->findChild<QPushButton*>(button)->accessibleName(), label);
     year->findChild<QPushButton*>(button)->click();
