@@ -316,11 +316,9 @@ void TestAssetFiles::gifKeepsExactColours()
 
 void TestAssetFiles::sharedPaletteForFrames()
 {
-    // Three frames with see-through holes: the left half stays put in 120
-    // colours, the right half is each frame's own gradient, some 1,200
-    // colours in all. Every mapped colour must be one of the palette's and
-    // near the original, and one input colour must come out as the same
-    // output colour in every frame, or what stays put would flicker.
+    // Three frames with holes, the left half alike, the right half each
+    // frame's own gradient: one colour maps alike in every frame, or what
+    // stays put would flicker.
     QVector<QImage> frames;
     for (int f = 0; f < 3; ++f) {
         QImage frame = patternImage(120, true);
