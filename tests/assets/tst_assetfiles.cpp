@@ -1,9 +1,5 @@
-// Checks the files drawassets writes into the build tree: that each one is
-// there and readable at the size the program expects, that the picture
-// sets build up step by step, that the animations move and close their
-// loops without a jump, that the edges blend into the screens they sit on,
-// that the sounds are valid and audible, and that the GIF writer keeps the
-// colours it is given.
+// The files drawassets writes into the build tree, and the GIF writer that
+// makes some of them.
 #include "assetcheck.h"
 #include "gifwriter.h"
 #include "menus/menulook.h"
@@ -95,10 +91,8 @@ void TestAssetFiles::stills()
         return;
     }
     if (format == "gif") {
-        // Clear round the picture so the cell's tile shows; the picture fills
-        // a good part of it in many shades, in colour where its subject has
-        // colours (a glyph in black and white would not), and its outline
-        // differs from the holly's.
+        // Clear round the picture so the cell's tile shows; many shades, in
+        // colour where the subject has colours, an outline of its own.
         QCOMPARE(qAlpha(image.pixel(0, 0)) + qAlpha(image.pixel(59, 59)), 0);
         QVERIFY2(solid > 3600 / 5 && solid < 3600 * 85 / 100, qPrintable(QString::number(solid)));
         QVERIFY2(colours.size() >= 40 && bright >= colourful * solid, qPrintable(QString::number(bright)));
@@ -121,11 +115,8 @@ void TestAssetFiles::stills()
 
 void TestAssetFiles::animations_data()
 {
-    // Each row is one animation: its frames in the order shown, how many
-    // pixels each step must change, another animation's first frame it must
-    // not look like, the share of the sides and of the whole rim that is the
-    // screen's blue (JPEG frames), how many digits number the frames, and
-    // how it moves.
+    // other: another animation's first frame it must not look like; sides,
+    // rim: the least share of them in the screen's blue (JPEG frames).
     QTest::addColumn<QStringList>("files");
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("minChanged");
@@ -135,8 +126,7 @@ void TestAssetFiles::animations_data()
     QTest::addColumn<int>("digits");
     QTest::addColumn<int>("motion");
 
-    // The reward pictures, built up step by step on the blue screen; the
-    // rim is that blue but for the JPEG fringe of the panel's white edge.
+    // The reward pictures, built up step by step on the blue screen.
     const auto reward = [](const char *set, int height) {
         QTest::newRow(set) << frameFiles(QStringLiteral("jpg2/%1").arg(QLatin1String(set)) + QStringLiteral("%1.jpg"), 21, 2)
                            << QSize(288, height) << 60 << QString() << 0.95 << 0.95 << 2 << int(BuildsUp);
@@ -290,8 +280,7 @@ void TestAssetFiles::harpSounds()
     }
     QVERIFY2(peak >= 8000 && peak < 32767, qPrintable(QString::number(peak)));  // loud, not clipped
     QVERIFY(std::sqrt(early / 11025) > 1000);  // the first half second is clearly audible
-    QVERIFY(std::abs(wav.first()) < 300);  // no click at either end
-    QVERIFY(std::abs(wav.last()) < 300);
+    QVERIFY(std::abs(wav.first()) < 300 && std::abs(wav.last()) < 300);  // no click at either end
     QVERIFY2(wav.mid(0, 11025) != sounds[1].mid(0, 11025), "sounds like the next harp");
 }
 
@@ -327,11 +316,9 @@ void TestAssetFiles::gifKeepsExactColours()
 
 void TestAssetFiles::sharedPaletteForFrames()
 {
-    // Three frames with see-through holes: the left half stays put in 120
-    // colours, the right half is each frame's own gradient, some 1,200
-    // colours in all. Every mapped colour must be one of the palette's and
-    // near the original, and one input colour must come out as the same
-    // output colour in every frame, or what stays put would flicker.
+    // Three frames with holes, the left half alike, the right half each
+    // frame's own gradient: one colour maps alike in every frame, or what
+    // stays put would flicker.
     QVector<QImage> frames;
     for (int f = 0; f < 3; ++f) {
         QImage frame = patternImage(120, true);

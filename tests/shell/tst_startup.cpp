@@ -76,7 +76,6 @@ void TestStartup::settingsDecideTheWayOn()
     QCOMPARE(soundoption, option);
     QCOMPARE(title->Command2->isEnabled(), exitEnabled);
     QCOMPARE(title->Picture1->picturePath(), QString("gif\\sphfra\\sphf0000.jpg"));
-    QCOMPARE(title->iconPath(), QString("ico\\fraction.ico"));
     QVERIFY(Forms::isLoaded("Grey"));
     QVERIFY(world.messages.isEmpty()); // bad files are never reported
 
@@ -146,16 +145,10 @@ void TestStartup::theSphereTurnsAndWraps()
 {
     Titlefrm* title = startTitle("0", "0");
     QVERIFY(title->Timer1->isEnabled()); // it turns from the start
-    QStringList seen;
-    for (int tick = 0; tick < 51; ++tick) {
+    for (int tick = 1; tick <= 51; ++tick) {
         title->Timer1_Timer();
-        seen << title->Picture1->picturePath();
+        QCOMPARE(title->Picture1->picturePath(), QString::asprintf("gif\\sphfra\\sphf%04d.jpg", tick % 50));
     }
-    QCOMPARE(seen.at(8), QString("gif\\sphfra\\sphf0009.jpg"));
-    QCOMPARE(seen.at(48), QString("gif\\sphfra\\sphf0049.jpg"));
-    QCOMPARE(seen.at(49), QString("gif\\sphfra\\sphf0000.jpg"));
-    QCOMPARE(seen.at(50), QString("gif\\sphfra\\sphf0001.jpg"));
-    QCOMPARE(QSet<QString>(seen.begin(), seen.end()).size(), 50);
 }
 
 void TestStartup::theDoorLeadsBackToATitleThatCanCancelOrExit()

@@ -51,33 +51,12 @@ Sheet mixedSheet()
                   Row{"Put in order, smallest first: 3.45, 3.5, 3.405", "3.405, 3.45, 3.5"}}};
 }
 
-// Stories too long for half the page's width.
-Sheet wordySheet()
+// A sheet of twelve questions made alike.
+Sheet twelve(const QString& title, const QString& instruction, const std::function<Row(int)>& row)
 {
-    Sheet sheet{"Fraction Stories", "Read each story and write the answer.", {}};
-    for (int i = 13; i <= 24; ++i)
-        sheet.rows << Row{QStringLiteral("A baker made %1 buns for the school fair and sold one quarter of them "
-                                         "before lunch. How many buns were sold before lunch?").arg(i * 4),
-                          QString::number(i), {}, 0, "buns"};
-    return sheet;
-}
-
-Sheet crowdedSheet()
-{
-    Sheet sheet{"Shapes Everywhere", "Look at each shape.", {}};
+    Sheet sheet{title, instruction, {}};
     for (int i = 1; i <= 12; ++i)
-        sheet.rows << Row{QStringLiteral("What fraction of shape %1 is shaded?").arg(i), "3/8", bar, 2000};
-    return sheet;
-}
-
-Sheet orderingSheet()
-{
-    Sheet sheet{"Ordering Decimal Numbers and Putting Them in Order of Their Size",
-                "Write the numbers in order, smallest first. Take care with the numbers that have two or three "
-                "decimal places, and check your answers when you have finished.", {}};
-    for (int i = 1; i <= 12; ++i)
-        sheet.rows << Row{QStringLiteral("4.%1, 4.05, 4.501, 4.5").arg(i),
-                          QStringLiteral("4.05, 4.5, 4.501, 4.%1").arg(i)};
+        sheet.rows << row(i);
     return sheet;
 }
 
@@ -150,10 +129,20 @@ private slots:
         const QSizeF a4 = sheetSize(), letter = sheetSize(612, 792);
         QTest::newRow("short questions, pictures, units") << mixedSheet() << a4 << 2 << false;
         QTest::newRow("short questions, Letter: shorter paper") << mixedSheet() << letter << 2 << true;
-        QTest::newRow("long stories: one column") << wordySheet() << a4 << 1 << false;
-        QTest::newRow("long stories, Letter") << wordySheet() << letter << 1 << false;
-        QTest::newRow("tall pictures") << crowdedSheet() << a4 << 2 << true;
-        QTest::newRow("long answers, long title and instruction") << orderingSheet() << a4 << 1 << false;
+        QTest::newRow("long stories: one column") << twelve("Fraction Stories", "Read each story and write the answer.",
+            [](int i) { return Row{QStringLiteral("A baker made %1 buns for the school fair and sold one quarter of "
+                                                  "them before lunch. How many buns were sold before lunch?").arg((i + 12) * 4),
+                                   QString::number(i + 12), {}, 0, "buns"}; }) << a4 << 1 << false;
+        QTest::newRow("tall pictures") << twelve("Shapes Everywhere", "Look at each shape.", [](int i) {
+            return Row{QStringLiteral("What fraction of shape %1 is shaded?").arg(i), "3/8", bar, 2000};
+        }) << a4 << 2 << true;
+        QTest::newRow("long answers, long title and instruction")
+            << twelve("Ordering Decimal Numbers and Putting Them in Order of Their Size",
+                      "Write the numbers in order, smallest first. Take care with the numbers that have two or three "
+                      "decimal places, and check your answers when you have finished.",
+                      [](int i) { return Row{QStringLiteral("4.%1, 4.05, 4.501, 4.5").arg(i),
+                                             QStringLiteral("4.05, 4.5, 4.501, 4.%1").arg(i)}; })
+            << a4 << 1 << false;
     }
 
     // On A4, the printer's paper, every text is also printed in its place.
