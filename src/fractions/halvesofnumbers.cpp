@@ -14,12 +14,6 @@ QString tr(const char* text)
 {
     return QCoreApplication::translate("HalvesOfNumbers", text);
 }
-
-struct Asked {
-    int top;
-    int bottom;
-};
-constexpr Asked kAsked[] = {{1, 2}, {1, 4}, {2, 4}, {3, 4}};
 } // namespace
 
 QString Question::instruction() const
@@ -36,7 +30,8 @@ Question draw(Random::Source& rnd, const Question* last)
 {
     Question q;
     do {
-        const Asked asked = kAsked[rnd.below(int(std::size(kAsked)))];
+        const auto& choices = Halves::kHalvesAndQuarters;
+        const Halves::Asked asked = choices[rnd.below(int(std::size(choices)))];
         q.top = asked.top;
         q.bottom = asked.bottom;
         // A multiple of the bottom from the bottom up to 20.

@@ -18,6 +18,16 @@ inline constexpr PictureSet kPictureSets[] = {
     {"dinosaurs", "gif\\wb01742_.gif"}, {"spiders", "gif\\wb01299_.gif"}, {"gorillas", "gif\\wb01746_.gif"},
 };
 inline constexpr int kSetCount = 6;
+
+// A fraction as Year 2 asks for it, written as asked: two quarters stays
+// two quarters.
+struct Asked {
+    int top;
+    int bottom;
+};
+// The fractions of Halves and Quarters 2 and 3: one half, and one, two and
+// three quarters.
+inline constexpr Asked kHalvesAndQuarters[] = {{1, 2}, {1, 4}, {2, 4}, {3, 4}};
 inline constexpr int kMostPictures = 16;
 
 struct Question {

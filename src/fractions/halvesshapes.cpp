@@ -1,6 +1,7 @@
 #include "halvesshapes.h"
 
 #include "fraction.h"
+#include "halvesquestion.h"
 #include "runtime/random.h"
 
 #include <QCoreApplication>
@@ -19,13 +20,6 @@ QString partCount(int n)
 {
     return n == 1 ? tr("1 part") : tr("%1 parts").arg(n);
 }
-
-// The fractions a 4-part shape may ask for, as top over bottom.
-struct Asked {
-    int top;
-    int bottom;
-};
-constexpr Asked kOfFour[] = {{1, 4}, {2, 4}, {3, 4}, {1, 2}};
 } // namespace
 
 QString Question::fractionWords() const
@@ -49,7 +43,9 @@ Question draw(Random::Source& rnd, const Question* last)
             q.top = 1;
             q.bottom = 2;
         } else {
-            const Asked asked = kOfFour[rnd.below(int(std::size(kOfFour)))];
+            // A 4-part shape may ask for any of them.
+            const auto& choices = Halves::kHalvesAndQuarters;
+            const Halves::Asked asked = choices[rnd.below(int(std::size(choices)))];
             q.top = asked.top;
             q.bottom = asked.bottom;
         }
