@@ -4,8 +4,10 @@
 # the packages to install by hand and goes on.
 set -euo pipefail
 
-packages=(cmake g++ make qt6-base-dev qt6-svg-dev libgif-dev fonts-liberation2 fonts-noto-color-emoji
-          poppler-utils xvfb xauth)
+packages=(cmake g++ make qt6-base-dev qt6-svg-dev qt6-multimedia-dev qt6-tools-dev qt6-l10n-tools
+          libgif-dev fonts-liberation2 fonts-noto-color-emoji poppler-utils xvfb xauth
+          dbus-daemon dbus-bin at-spi2-core python3-gi gir1.2-atspi-2.0
+          clang libclang-rt-14-dev)
 
 missing=()
 if command -v dpkg-query >/dev/null 2>&1; then
