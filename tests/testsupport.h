@@ -1,12 +1,13 @@
 #pragma once
 // What every screen test needs: the drawn assets, a fresh temporary settings
 // folder, the screens registered, message boxes answered by the test, a fixed
-// random seed, and a way to unload everything between test functions.
+// random seed, silence, and a way to unload everything between test functions.
 #include "runtime/forms.h"
 #include "runtime/msgbox.h"
 #include "runtime/pictures.h"
 #include "runtime/random.h"
 #include "runtime/settingsfile.h"
+#include "runtime/sound.h"
 #include "shell/module1.h"
 #include "shell/screens.h"
 
@@ -83,6 +84,9 @@ struct World {
         unloadAll();
         Module1::reset();
         Random::fixSeed(seed);
+        // No test makes a sound; one that listens unmutes and records.
+        Sound::setMuted(true);
+        Sound::setPlayer({});
         settings = std::make_unique<QTemporaryDir>();
         SettingsFile::setFolder(settings->path());
         Pictures::setAssetFolder(QStringLiteral(PARTITUDE_TEST_ASSETS));

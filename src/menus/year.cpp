@@ -152,6 +152,7 @@ Year::Year()
     connect(Timer2, &QTimer::timeout, this, &Year::Timer2_Timer);
     connect(Timer3, &QTimer::timeout, this, &Year::Timer3_Timer);
     connect(Label3, &QLabel::linkActivated, this, &Year::Label3_Click);
+    connect(Check1, &QCheckBox::clicked, this, &Year::Check1_Click);
 }
 
 void Year::Form_Load()
@@ -227,6 +228,13 @@ void Year::Timer2_Timer()
 void Year::Timer3_Timer()
 {
     Timer3->setEnabled(false);
+}
+
+void Year::Check1_Click()
+{
+    // The choice holds for the rest of the session (each load of the menu
+    // unticks the box when soundoption is 0); it is not saved.
+    Module1::soundoption = Check1->isChecked() ? 1 : 0;
 }
 
 void Year::Label3_Click()

@@ -56,6 +56,7 @@ public slots:
     void Timer2_Timer();
     void Timer3_Timer();
     void Label3_Click();
+    void Check1_Click();
 
 protected:
     // The close box is the door: back to the title screen.

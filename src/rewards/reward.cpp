@@ -1,5 +1,6 @@
 #include "reward.h"
 
+#include "grey.h"
 #include "runtime/formtimer.h"
 #include "shell/activityform.h"
 #include "runtime/forms.h"
@@ -77,6 +78,8 @@ void Reward::Form_Load()
     Timer3->setEnabled(message);
     Label1->setVisible(message);
     Label2->setVisible(message);
+    if (message)
+        Grey::playHarp(Grey::kRetryHarp); // a soft fall of notes, never a buzzer
     retry = 0;
 }
 
