@@ -57,11 +57,13 @@ QByteArray wavFile(const std::vector<double> &mix)
     for (double v : mix)
         peak = std::max(peak, std::abs(v));
     const double gain = 0.7 * 32767 / peak;
-    const int fadeOut = kRate / 20;  // no click at the end
+    // The strings still ring at the end: a gentle fade, as a hand laid on
+    // them, rather than a cut (and no click).
+    const int fadeOut = kRate * 3 / 10;
     QByteArray samples(int(mix.size() * 2), Qt::Uninitialized);
     for (std::size_t i = 0; i < mix.size(); ++i) {
         const std::size_t left = mix.size() - 1 - i;
-        const double tail = left < std::size_t(fadeOut) ? double(left) / fadeOut : 1.0;
+        const double tail = left < std::size_t(fadeOut) ? 0.5 - 0.5 * std::cos(M_PI * left / fadeOut) : 1.0;
         const auto value = qint16(std::lround(std::clamp(mix[i] * gain * tail, -32767.0, 32767.0)));
         qToLittleEndian(value, samples.data() + 2 * i);
     }
