@@ -23,7 +23,7 @@ QStringList columnDigits(const QString& spaced)
 
 } // namespace PlaceValue
 
-const QStringList PlaceValueHeads::kHeads = {QStringLiteral("units"), QStringLiteral("1/10"), QStringLiteral("1/100"),
+const QStringList PlaceValueHeads::kHeads = {QStringLiteral(QT_TRANSLATE_NOOP("PlaceValueHeads", "units")), QStringLiteral("1/10"), QStringLiteral("1/100"),
                                              QStringLiteral("1/1000")};
 
 PlaceValueHeads::PlaceValueHeads(QWidget* parent, const QString& name)
@@ -46,7 +46,7 @@ void PlaceValueHeads::paintEvent(QPaintEvent*)
         painter.setFont(font());
         const QStringList parts = kHeads[c].split(QLatin1Char('/'));
         if (parts.size() == 1) {
-            painter.drawText(box, Qt::AlignCenter, kHeads[c]);
+            painter.drawText(box, Qt::AlignCenter, tr(qPrintable(kHeads[c])));
             continue;
         }
         const QFontMetricsF metrics(font());
