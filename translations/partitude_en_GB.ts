@@ -1083,10 +1083,6 @@ Partitude looks for its pictures in the folder:
 <context>
     <name>ShapeBoard</name>
     <message>
-        <source>a %1 cut into %2 equal parts, %3 coloured</source>
-        <translation>a %1 cut into %2 equal parts, %3 coloured</translation>
-    </message>
-    <message>
         <source>part %1 of %2, %3</source>
         <translation>part %1 of %2, %3</translation>
     </message>
@@ -1097,6 +1093,13 @@ Partitude looks for its pictures in the folder:
     <message>
         <source>not coloured</source>
         <translation>not coloured</translation>
+    </message>
+    <message numerus="yes">
+        <source>a %1 cut into %2 equal parts, %n coloured</source>
+        <translation>
+            <numerusform>a %1 cut into %2 equal parts, %n coloured</numerusform>
+            <numerusform>a %1 cut into %2 equal parts, %n coloured</numerusform>
+        </translation>
     </message>
 </context>
 <context>

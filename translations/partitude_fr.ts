@@ -1083,10 +1083,6 @@ Partitude cherche ses images dans le dossier&#xa0;:
 <context>
     <name>ShapeBoard</name>
     <message>
-        <source>a %1 cut into %2 equal parts, %3 coloured</source>
-        <translation>un %1 coupé en %2 parts égales, %3 coloriées</translation>
-    </message>
-    <message>
         <source>part %1 of %2, %3</source>
         <translation>part %1 sur %2, %3</translation>
     </message>
@@ -1097,6 +1093,13 @@ Partitude cherche ses images dans le dossier&#xa0;:
     <message>
         <source>not coloured</source>
         <translation>pas coloriée</translation>
+    </message>
+    <message numerus="yes">
+        <source>a %1 cut into %2 equal parts, %n coloured</source>
+        <translation>
+            <numerusform>un %1 coupé en %2 parts égales, %n coloriée</numerusform>
+            <numerusform>un %1 coupé en %2 parts égales, %n coloriées</numerusform>
+        </translation>
     </message>
 </context>
 <context>

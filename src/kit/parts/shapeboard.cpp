@@ -107,10 +107,10 @@ int ShapeBoard::partAt(const QPointF& point) const
 
 QString ShapeBoard::description() const
 {
-    return tr("a %1 cut into %2 equal parts, %3 coloured")
+    // The count also chooses a translation's plural form ("1 coloriée").
+    return tr("a %1 cut into %2 equal parts, %n coloured", nullptr, colouredCount())
         .arg(shapeNoun(m_kind))
-        .arg(partCount())
-        .arg(colouredCount());
+        .arg(partCount());
 }
 
 QString ShapeBoard::partName(int index) const

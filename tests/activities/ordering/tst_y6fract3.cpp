@@ -280,9 +280,11 @@ void TestY6fract3::helpLeavesTheRunAlone()
     for (std::size_t n = 1; n + 1 < help->kExplanation.size(); n += 2) {
         const auto& numbers = help->kExplanation[n].numbers;
         const auto& since = help->kExplanation[n + 1].numbers;
-        QCOMPARE(since.size(), numbers.size());
-        for (std::size_t m = 0; m < numbers.size(); ++m)
-            QCOMPARE(QString::fromLatin1(since[m].digits), QString(QChar::fromLatin1(numbers[m].digits[numbers[m].compared])));
+        QVERIFY(since.size() >= numbers.size());
+        for (std::size_t m = 0; m < numbers.size(); ++m) {
+            const char digit = numbers[m].digits[numbers[m].compared];
+            QCOMPARE(QString::fromLatin1(since[m].digits), QString(QChar::fromLatin1(digit)));
+        }
         if (numbers.size() == 2) {
             const QString a = QString::fromLatin1(numbers[0].digits), b = QString::fromLatin1(numbers[1].digits);
             int d = 0;
@@ -291,7 +293,7 @@ void TestY6fract3::helpLeavesTheRunAlone()
             QVERIFY(numbers[0].compared == d && numbers[1].compared == d);
         }
     }
-    QCOMPARE(help->Image2->text().count(QStringLiteral("font-weight:bold")), 13);
+    QCOMPARE(help->Image2->text().count(QStringLiteral("font-weight:bold")), 15);
     QVERIFY(help->Image2->text().contains(QStringLiteral("3.4<span style=\"color:#ffe050; font-weight:bold; font-size:large;\">7</span>2 is less than")));
     QCOMPARE(snapshot(), before);
     help->cmdexit->click();
