@@ -1337,11 +1337,11 @@ Partitude cherche ses images dans le dossier&#xa0;:
     </message>
     <message>
         <source>Smallest</source>
-        <translation>Le plus petit</translation>
+        <translation>Le&#x202f;+&#x202f;petit</translation>
     </message>
     <message>
         <source>Biggest</source>
-        <translation>Le plus grand</translation>
+        <translation>Le&#x202f;+&#x202f;grand</translation>
     </message>
     <message>
         <source>Good Luck.</source>
@@ -1455,7 +1455,7 @@ Partitude cherche ses images dans le dossier&#xa0;:
     </message>
     <message>
         <source>The following decimals are in order of size starting with the smallest:</source>
-        <translation>Ces nombres décimaux sont rangés par taille, du plus petit au plus grand&#xa0;:</translation>
+        <translation>Ces nombres décimaux sont rangés du plus petit au plus grand&#xa0;:</translation>
     </message>
     <message>
         <source>Exit</source>
