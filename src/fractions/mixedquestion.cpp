@@ -75,7 +75,8 @@ QString MixedQuestion::answerText() const
                               .arg(whole)
                               .arg(numer)
                               .arg(denom);
-    const QString is = QCoreApplication::translate("MixedQuestion", "%1 is %2", "one number is another: 11/4 is 2 and 3/4");
+    const QString is
+        = QCoreApplication::translate("MixedQuestion", "%1 is %2", "one number is another: 11/4 is 2 and 3/4");
     return direction == kToMixed ? is.arg(improper, mixed) : is.arg(mixed, improper);
 }
 
@@ -94,15 +95,14 @@ QString MixedQuestion::hintText() const
     const QString parts = numer == 1 ? fractionnames(denom + kSingularOffset) : plural;
     // The English singular and plural are separate texts; the count of
     // wholes also chooses a translation's own plural form.
-    if (direction == kToMixed)
-        return (whole == 1
-                    ? QCoreApplication::translate("MixedQuestion", "%1 %2 is %n whole one with %3 %4 left over.", nullptr, whole)
-                    : QCoreApplication::translate("MixedQuestion", "%1 %2 is %n whole ones with %3 %4 left over.", nullptr, whole))
-            .arg(num(denom * whole), plural, num(numer), parts);
-    return (whole == 1
-                ? QCoreApplication::translate("MixedQuestion", "Each whole number is %1 %2. You have %n whole number and %3 %4.", nullptr, whole)
-                : QCoreApplication::translate("MixedQuestion", "Each whole number is %1 %2. You have %n whole numbers and %3 %4.", nullptr, whole))
-        .arg(num(denom), plural, num(numer), parts);
+    const char* const sentence = direction == kToMixed
+        ? (whole == 1 ? QT_TRANSLATE_N_NOOP("MixedQuestion", "%1 %2 is %n whole one with %3 %4 left over.")
+                      : QT_TRANSLATE_N_NOOP("MixedQuestion", "%1 %2 is %n whole ones with %3 %4 left over."))
+        : (whole == 1
+               ? QT_TRANSLATE_N_NOOP("MixedQuestion", "Each whole number is %1 %2. You have %n whole number and %3 %4.")
+               : QT_TRANSLATE_N_NOOP("MixedQuestion", "Each whole number is %1 %2. You have %n whole numbers and %3 %4."));
+    const QString first = direction == kToMixed ? num(denom * whole) : num(denom);
+    return QCoreApplication::translate("MixedQuestion", sentence, nullptr, whole).arg(first, plural, num(numer), parts);
 }
 
 QString MixedQuestion::productText() const

@@ -32,7 +32,8 @@ bool printOrTell(const std::function<void()>& print)
 
 bool askAndPrint(const QString& printForm)
 {
-    if (MsgBox::show(QCoreApplication::translate("Worksheets", "Do you really want to print?"), MsgBox::Buttons::YesNo, Module1::yearlabel)
+    if (MsgBox::show(QCoreApplication::translate("Worksheets", "Do you really want to print?"), MsgBox::Buttons::YesNo,
+                     Module1::yearlabel)
         != MsgBox::Answer::Yes)
         return false;
     auto* form = qobject_cast<WorksheetForm*>(Forms::load(printForm));

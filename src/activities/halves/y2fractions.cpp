@@ -44,11 +44,12 @@ Y2fractions::Y2fractions()
     , Label1(wordLabel(this, QStringLiteral("Label1"), QString(), 14, kInstructionInk))
     , Label2(wordLabel(this, QStringLiteral("Label2"), QStringLiteral("dhshsdhsdhdfgh"), 14, kMessageInk))
     , Label8(wordLabel(this, QStringLiteral("Label8"), tr("Click Start to have another go... or click Exit"), 16,
-                   kInstructionInk))
+                       kInstructionInk))
     , Label3(wordLabel(Picture1, QStringLiteral("Label3"), tr("Good Luck."), 18, kMessageInk))
-    , Label4(wordLabel(Picture1, QStringLiteral("Label4"), QCoreApplication::translate("Activities", "Halves and Quarters 1"), 26, kInstructionInk))
-    , Label6(wordLabel(Picture1, QStringLiteral("Label6"), tr("Aim to get 10 or 20 questions correct to gain a certificate."),
-                   14, kInstructionInk))
+    , Label4(wordLabel(Picture1, QStringLiteral("Label4"),
+                       QCoreApplication::translate("Activities", "Halves and Quarters 1"), 26, kInstructionInk))
+    , Label6(wordLabel(Picture1, QStringLiteral("Label6"),
+                       tr("Aim to get 10 or 20 questions correct to gain a certificate."), 14, kInstructionInk))
     , Frame1(new QFrame(this))
     , Frame2(new QFrame(this))
     , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))

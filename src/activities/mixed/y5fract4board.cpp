@@ -155,11 +155,11 @@ void y5fract4::buildBoard()
     Twips::place(Picture1, kOpeningLeft, kOpeningTop, kOpeningWidth, kOpeningHeight);
     const int openingInside = kOpeningWidth - 480;
     Label4 = label(Picture1, "Label4",
-                   QCoreApplication::translate("Activities", "Mixed Numbers To Improper Fractions or Improper Fractions To Mixed Numbers"),
+                   QCoreApplication::translate(
+                       "Activities", "Mixed Numbers To Improper Fractions or Improper Fractions To Mixed Numbers"),
                    Twips::font(kSerif, 18, true), kPanelInk, Qt::AlignCenter);
     Twips::place(Label4, 240, 180, openingInside, 1200);
-    Label6 = label(Picture1, "Label6",
-                   tr("Aim to get 10 or 20 questions correct to gain a certifcate."),
+    Label6 = label(Picture1, "Label6", tr("Aim to get 10 or 20 questions correct to gain a certifcate."),
                    Twips::font(kSerif, 13, false), kPanelInk, Qt::AlignCenter);
     Twips::place(Label6, 240, 1440, openingInside, 720);
     Frame1 = panel(this, "Frame1", kColumnLeft, kOptionsTop, kColumnWidth, kOptionsHeight, kPanelPaper);
@@ -171,8 +171,7 @@ void y5fract4::buildBoard()
     }
     Twips::place(Option1, 120, 90, 1620, 360);
     Twips::place(Option2, 1800, 90, 1620, 360);
-    Label3 = label(Picture1, "Label3", tr("Good Luck."), Twips::font(kSerif, 16, true), kPanelInk,
-                   Qt::AlignCenter);
+    Label3 = label(Picture1, "Label3", tr("Good Luck."), Twips::font(kSerif, 16, true), kPanelInk, Qt::AlignCenter);
     Twips::place(Label3, 240, 2340, openingInside, 540);
     for (QLabel* l : {Label4, Label6, Label3})
         setInk(l, kPanelInk, kPanelPaper);
@@ -224,8 +223,8 @@ void y5fract4::buildBoard()
     // Each is named for the number it holds, as a screen reader says it.
     auto box = [&](QWidget* parent, const char* name, const QString& spoken, QLabel* under,
                    void (y5fract4::*handler)(int&)) {
-        QLineEdit* b = AnswerBox::make(parent, QString::fromLatin1(name), spoken, numbers,
-                                       kBoxOptions, [this, handler](int& keyAscii) { (this->*handler)(keyAscii); });
+        QLineEdit* b = AnswerBox::make(parent, QString::fromLatin1(name), spoken, numbers, kBoxOptions,
+                                       [this, handler](int& keyAscii) { (this->*handler)(keyAscii); });
         b->setStyleSheet(boxStyle());
         b->setGeometry(under->geometry());
         b->raise();
@@ -242,8 +241,7 @@ void y5fract4::buildBoard()
     Label5 = label(Frame2, "Label5", QString(), words, kWhite);
     Twips::place(Label5, 120, 0, kHintWidth, kBandHeight);
     Label5->hide();
-    Label18 = label(Frame2, "Label18",
-                    tr("Type in your mixed number and use the ENTER key to move on"), words, kWhite);
+    Label18 = label(Frame2, "Label18", tr("Type in your mixed number and use the ENTER key to move on"), words, kWhite);
     Twips::place(Label18, 120, 0, kHintWidth, kBandHeight);
     Label20 = label(Frame2, "Label20", QString(), Twips::font(kSerif, 16, true), kFeedbackInk, Qt::AlignCenter);
     Twips::place(Label20, kProductLeft, 0, kProductWidth, kBandHeight);

@@ -26,9 +26,10 @@ constexpr QSize kSmallestSize{140, 60};
 // A row as a screen reader says it: "a row of 8 eighths, 4 shaded".
 QString rowWords(const FractionWall::Row& row)
 {
-    const QString bricks = row.bottom == 1
-        ? FractionWall::tr("1 whole")
-        : FractionWall::tr("%1 %2", "a count of bricks and their name: 8 eighths").arg(row.bottom).arg(Fractions::partsName(row.bottom));
+    const QString bricks = row.bottom == 1 ? FractionWall::tr("1 whole")
+                                           : FractionWall::tr("%1 %2", "a count of bricks and their name: 8 eighths")
+                                                 .arg(row.bottom)
+                                                 .arg(Fractions::partsName(row.bottom));
     return row.shaded == 0 ? FractionWall::tr("a row of %1, none shaded").arg(bricks)
                            : FractionWall::tr("a row of %1, %2 shaded").arg(bricks).arg(row.shaded);
 }

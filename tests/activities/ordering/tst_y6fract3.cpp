@@ -294,7 +294,8 @@ void TestY6fract3::helpLeavesTheRunAlone()
         }
     }
     QCOMPARE(help->Image2->text().count(QStringLiteral("font-weight:bold")), 15);
-    QVERIFY(help->Image2->text().contains(QStringLiteral("3.4<span style=\"color:#ffe050; font-weight:bold; font-size:large;\">7</span>2 is less than")));
+    QVERIFY(help->Image2->text().contains(
+        QStringLiteral("3.4<span style=\"color:#ffe050; font-weight:bold; font-size:large;\">7</span>2 is less than")));
     QCOMPARE(snapshot(), before);
     help->cmdexit->click();
     TestSupport::flushUnloads();
