@@ -9,12 +9,15 @@
 #include "activities/ordering/y6fract3.h"
 #include "runtime/forms.h"
 
+#include <QCoreApplication>
+
 namespace Activities {
 
 namespace {
 constexpr Prompt kShort = Prompt::TenOrTwenty;
 constexpr Prompt kEither = Prompt::EitherTenOrTwenty;
-constexpr const char* kBothWays = "Mixed Numbers To Improper Fractions or Improper Fractions To Mixed Numbers";
+constexpr const char* kBothWays =
+    QT_TRANSLATE_NOOP("Activities", "Mixed Numbers To Improper Fractions or Improper Fractions To Mixed Numbers");
 
 template <class F> Form* make()
 {
@@ -25,45 +28,50 @@ template <class F> Form* make()
 QString promptText(Prompt prompt)
 {
     return prompt == Prompt::TenOrTwenty
-        ? QStringLiteral("Choose 10 or 20 questions. Answer them correctly to gain a certificate.")
-        : QStringLiteral("Choose either 10 or 20 questions. Answer this number of questions correctly to gain a certificate.");
+        ? QCoreApplication::translate("Activities", "Choose 10 or 20 questions. Answer them correctly to gain a certificate.")
+        : QCoreApplication::translate("Activities", "Choose either 10 or 20 questions. Answer this number of questions correctly to gain a certificate.");
+}
+
+QString titleText(const Row& row)
+{
+    return QCoreApplication::translate("Activities", row.title);
 }
 
 const QVector<Row>& all()
 {
     // menu, button, title, screen, prompt, screen maker, designed worksheet, generated worksheet
     static const QVector<Row> rows{
-        {"y2Intro", "Command5", "Halves and Quarters 1", "Y2fractions", kEither, make<Y2fractions>, "y2fracprint1"},
-        {"y2Intro", "Command2", "Halves and Quarters 2", "Y2fractions2", kEither, make<Y2fractions2>, nullptr, ShapesBoard::worksheet},
-        {"y2Intro", "Command3", "Halves and Quarters 3", "Y2fractions3", kShort, make<Y2fractions3>, nullptr, PicturesBoard::worksheet},
+        {"y2Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Halves and Quarters 1"), "Y2fractions", kEither, make<Y2fractions>, "y2fracprint1"},
+        {"y2Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Halves and Quarters 2"), "Y2fractions2", kEither, make<Y2fractions2>, nullptr, ShapesBoard::worksheet},
+        {"y2Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Halves and Quarters 3"), "Y2fractions3", kShort, make<Y2fractions3>, nullptr, PicturesBoard::worksheet},
 
-        {"y3Intro", "Command2", "Halves, Quarters, Thirds and Tenths 1", "y3fract1", kEither},
-        {"y3Intro", "Command3", "Halves, Quarters, Thirds and Tenths 2", "y3fract2", kEither},
-        {"y3Intro", "Command5", "Halves, Quarters, Thirds and Tenths 3", "y3fract3", kEither},
+        {"y3Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 1"), "y3fract1", kEither},
+        {"y3Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 2"), "y3fract2", kEither},
+        {"y3Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 3"), "y3fract3", kEither},
 
-        {"y4Intro", "Command1", "Equivalent Fractions 3", "y4fract3", kEither},
-        {"y4Intro", "Command2", "Equivalent Fractions 2", "y4fract2", kEither},
-        {"y4Intro", "Command3", "Write A Fraction", "y4fract4", kEither},
-        {"y4Intro", "Command5", "Equivalent Fractions 1", "y4fract1", kEither},
-        {"y4Intro", "Command6", "More Than, Less Than", "y4fract5", kEither},
+        {"y4Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 3"), "y4fract3", kEither},
+        {"y4Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 2"), "y4fract2", kEither},
+        {"y4Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Write A Fraction"), "y4fract4", kEither},
+        {"y4Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 1"), "y4fract1", kEither},
+        {"y4Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "More Than, Less Than"), "y4fract5", kEither},
 
-        {"y5Intro", "Command1", "Fractions of Numbers", "y5fract1", kEither},
-        {"y5Intro", "Command3", "Equivalent Fractions", "y5fract2", kEither},
-        {"y5Intro", "Command5", "Cancelling", "y5fract3", kEither},
-        {"y5Intro", "Command2", "Mixed Numbers and Improper Fractions", "y5Intro2", kEither, nullptr, nullptr, nullptr, true},
-        {"y5Intro", "Command6", "Partitude", "y5fract5", kEither},
+        {"y5Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Fractions of Numbers"), "y5fract1", kEither},
+        {"y5Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions"), "y5fract2", kEither},
+        {"y5Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Cancelling"), "y5fract3", kEither},
+        {"y5Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Mixed Numbers and Improper Fractions"), "y5Intro2", kEither, nullptr, nullptr, nullptr, true},
+        {"y5Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Partitude"), "y5fract5", kEither},
 
         {"y5Intro2", "Command1", kBothWays, "y5fract4", kShort, make<y5fract4>, "y5fracprint4"},
-        {"y5Intro2", "Command2", "Mixed Numbers To Improper Fractions", "y5fract6", kEither},
-        {"y5Intro2", "Command5", "Improper Fractions To Mixed Numbers", "y5fract7", kEither},
+        {"y5Intro2", "Command2", QT_TRANSLATE_NOOP("Activities", "Mixed Numbers To Improper Fractions"), "y5fract6", kEither},
+        {"y5Intro2", "Command5", QT_TRANSLATE_NOOP("Activities", "Improper Fractions To Mixed Numbers"), "y5fract7", kEither},
 
         {"y6Intro", "Command2", kBothWays, "y6fract1", kEither},
-        {"y6Intro", "Command3", "Decimals Between", "y6fract2", kEither},
-        {"y6Intro", "Command1", "Place In Order", "Y6fract3", kEither, make<Y6fract3>, "y6fracprint3"},
-        {"y6Intro", "Command5", "How Many?", "y6fract4", kEither},
-        {"y6Intro", "Command6", "Finding Amounts", "y6fract5", kEither},
-        {"y6Intro", "Command7", "Digits", "y6fract6", kEither},
-        {"y6Intro", "Command8", "Rounding", "y6fract7", kEither},
+        {"y6Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Decimals Between"), "y6fract2", kEither},
+        {"y6Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Place In Order"), "Y6fract3", kEither, make<Y6fract3>, "y6fracprint3"},
+        {"y6Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "How Many?"), "y6fract4", kEither},
+        {"y6Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Finding Amounts"), "y6fract5", kEither},
+        {"y6Intro", "Command7", QT_TRANSLATE_NOOP("Activities", "Digits"), "y6fract6", kEither},
+        {"y6Intro", "Command8", QT_TRANSLATE_NOOP("Activities", "Rounding"), "y6fract7", kEither},
     };
     return rows;
 }

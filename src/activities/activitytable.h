@@ -37,6 +37,9 @@ struct Row {
     bool subMenu = false; // the button opens another menu, not an activity
 };
 
+// The row's title in the reader's language.
+QString titleText(const Row& row);
+
 // All rows, each menu's rows in the order its buttons stand, top to bottom.
 const QVector<Row>& all();
 // The rows of one menu, top to bottom.

@@ -1,5 +1,6 @@
 #include "fraction.h"
 
+#include <QCoreApplication>
 #include <cstdlib>
 #include <numeric>
 
@@ -51,22 +52,60 @@ bool inLowestTerms(int top, int bottom)
 }
 
 namespace {
-const char* const kNumbers[] = {"zero",    "one",     "two",       "three",    "four",     "five",    "six",
-                                "seven",   "eight",   "nine",      "ten",      "eleven",   "twelve",  "thirteen",
-                                "fourteen", "fifteen", "sixteen",  "seventeen", "eighteen", "nineteen", "twenty"};
+// Every word below is translated as a whole phrase ("one half", "%1
+// quarters"), so a language can give each fraction its own words, article
+// and plural; the English texts are right without any translation loaded.
+const char* const kNumbers[] = {
+    QT_TRANSLATE_NOOP("Fractions", "zero"),      QT_TRANSLATE_NOOP("Fractions", "one"),
+    QT_TRANSLATE_NOOP("Fractions", "two"),       QT_TRANSLATE_NOOP("Fractions", "three"),
+    QT_TRANSLATE_NOOP("Fractions", "four"),      QT_TRANSLATE_NOOP("Fractions", "five"),
+    QT_TRANSLATE_NOOP("Fractions", "six"),       QT_TRANSLATE_NOOP("Fractions", "seven"),
+    QT_TRANSLATE_NOOP("Fractions", "eight"),     QT_TRANSLATE_NOOP("Fractions", "nine"),
+    QT_TRANSLATE_NOOP("Fractions", "ten"),       QT_TRANSLATE_NOOP("Fractions", "eleven"),
+    QT_TRANSLATE_NOOP("Fractions", "twelve"),    QT_TRANSLATE_NOOP("Fractions", "thirteen"),
+    QT_TRANSLATE_NOOP("Fractions", "fourteen"),  QT_TRANSLATE_NOOP("Fractions", "fifteen"),
+    QT_TRANSLATE_NOOP("Fractions", "sixteen"),   QT_TRANSLATE_NOOP("Fractions", "seventeen"),
+    QT_TRANSLATE_NOOP("Fractions", "eighteen"),  QT_TRANSLATE_NOOP("Fractions", "nineteen"),
+    QT_TRANSLATE_NOOP("Fractions", "twenty")};
 constexpr int kLargestNumberWord = 20;
 
 struct PartNames {
     int bottom;
-    const char* one;
-    const char* many;
+    const char* one;     // the name of one part: "half"
+    const char* many;    // of several: "halves"
+    const char* single;  // one of them, as said: "one half"
+    const char* several; // several of them, %1 the number: "%1 halves" (its plural forms by the count)
 };
+// Written out in full, so lupdate finds every phrase.
 constexpr PartNames kParts[] = {
-    {2, "half", "halves"},        {3, "third", "thirds"},       {4, "quarter", "quarters"},
-    {5, "fifth", "fifths"},       {6, "sixth", "sixths"},       {7, "seventh", "sevenths"},
-    {8, "eighth", "eighths"},     {9, "ninth", "ninths"},       {10, "tenth", "tenths"},
-    {11, "eleventh", "elevenths"}, {12, "twelfth", "twelfths"}, {20, "twentieth", "twentieths"},
-    {100, "hundredth", "hundredths"}, {1000, "thousandth", "thousandths"},
+    {2, QT_TRANSLATE_NOOP("Fractions", "half"), QT_TRANSLATE_NOOP("Fractions", "halves"),
+     QT_TRANSLATE_NOOP("Fractions", "one half"), QT_TRANSLATE_N_NOOP("Fractions", "%1 halves")},
+    {3, QT_TRANSLATE_NOOP("Fractions", "third"), QT_TRANSLATE_NOOP("Fractions", "thirds"),
+     QT_TRANSLATE_NOOP("Fractions", "one third"), QT_TRANSLATE_N_NOOP("Fractions", "%1 thirds")},
+    {4, QT_TRANSLATE_NOOP("Fractions", "quarter"), QT_TRANSLATE_NOOP("Fractions", "quarters"),
+     QT_TRANSLATE_NOOP("Fractions", "one quarter"), QT_TRANSLATE_N_NOOP("Fractions", "%1 quarters")},
+    {5, QT_TRANSLATE_NOOP("Fractions", "fifth"), QT_TRANSLATE_NOOP("Fractions", "fifths"),
+     QT_TRANSLATE_NOOP("Fractions", "one fifth"), QT_TRANSLATE_N_NOOP("Fractions", "%1 fifths")},
+    {6, QT_TRANSLATE_NOOP("Fractions", "sixth"), QT_TRANSLATE_NOOP("Fractions", "sixths"),
+     QT_TRANSLATE_NOOP("Fractions", "one sixth"), QT_TRANSLATE_N_NOOP("Fractions", "%1 sixths")},
+    {7, QT_TRANSLATE_NOOP("Fractions", "seventh"), QT_TRANSLATE_NOOP("Fractions", "sevenths"),
+     QT_TRANSLATE_NOOP("Fractions", "one seventh"), QT_TRANSLATE_N_NOOP("Fractions", "%1 sevenths")},
+    {8, QT_TRANSLATE_NOOP("Fractions", "eighth"), QT_TRANSLATE_NOOP("Fractions", "eighths"),
+     QT_TRANSLATE_NOOP("Fractions", "one eighth"), QT_TRANSLATE_N_NOOP("Fractions", "%1 eighths")},
+    {9, QT_TRANSLATE_NOOP("Fractions", "ninth"), QT_TRANSLATE_NOOP("Fractions", "ninths"),
+     QT_TRANSLATE_NOOP("Fractions", "one ninth"), QT_TRANSLATE_N_NOOP("Fractions", "%1 ninths")},
+    {10, QT_TRANSLATE_NOOP("Fractions", "tenth"), QT_TRANSLATE_NOOP("Fractions", "tenths"),
+     QT_TRANSLATE_NOOP("Fractions", "one tenth"), QT_TRANSLATE_N_NOOP("Fractions", "%1 tenths")},
+    {11, QT_TRANSLATE_NOOP("Fractions", "eleventh"), QT_TRANSLATE_NOOP("Fractions", "elevenths"),
+     QT_TRANSLATE_NOOP("Fractions", "one eleventh"), QT_TRANSLATE_N_NOOP("Fractions", "%1 elevenths")},
+    {12, QT_TRANSLATE_NOOP("Fractions", "twelfth"), QT_TRANSLATE_NOOP("Fractions", "twelfths"),
+     QT_TRANSLATE_NOOP("Fractions", "one twelfth"), QT_TRANSLATE_N_NOOP("Fractions", "%1 twelfths")},
+    {20, QT_TRANSLATE_NOOP("Fractions", "twentieth"), QT_TRANSLATE_NOOP("Fractions", "twentieths"),
+     QT_TRANSLATE_NOOP("Fractions", "one twentieth"), QT_TRANSLATE_N_NOOP("Fractions", "%1 twentieths")},
+    {100, QT_TRANSLATE_NOOP("Fractions", "hundredth"), QT_TRANSLATE_NOOP("Fractions", "hundredths"),
+     QT_TRANSLATE_NOOP("Fractions", "one hundredth"), QT_TRANSLATE_N_NOOP("Fractions", "%1 hundredths")},
+    {1000, QT_TRANSLATE_NOOP("Fractions", "thousandth"), QT_TRANSLATE_NOOP("Fractions", "thousandths"),
+     QT_TRANSLATE_NOOP("Fractions", "one thousandth"), QT_TRANSLATE_N_NOOP("Fractions", "%1 thousandths")},
 };
 
 const PartNames* partNames(int bottom)
@@ -76,11 +115,16 @@ const PartNames* partNames(int bottom)
             return &p;
     return nullptr;
 }
+
+QString translated(const char* text, int n = -1)
+{
+    return QCoreApplication::translate("Fractions", text, nullptr, n);
+}
 } // namespace
 
 QString numberWord(int n)
 {
-    return n >= 0 && n <= kLargestNumberWord ? QString::fromLatin1(kNumbers[n]) : QString::number(n);
+    return n >= 0 && n <= kLargestNumberWord ? translated(kNumbers[n]) : QString::number(n);
 }
 
 QString capitalised(QString text)
@@ -93,20 +137,36 @@ QString capitalised(QString text)
 QString partName(int bottom)
 {
     const PartNames* p = partNames(bottom);
-    return p ? QString::fromLatin1(p->one) : QString::number(bottom) + QStringLiteral("th");
+    return p ? translated(p->one) : QCoreApplication::translate("Fractions", "%1th").arg(bottom);
 }
 
 QString partsName(int bottom)
 {
     const PartNames* p = partNames(bottom);
-    return p ? QString::fromLatin1(p->many) : QString::number(bottom) + QStringLiteral("ths");
+    return p ? translated(p->many) : QCoreApplication::translate("Fractions", "%1ths").arg(bottom);
 }
 
 QString words(int top, int bottom)
 {
     if (bottom == 1)
         return numberWord(top);
-    return numberWord(top) + QLatin1Char(' ') + (std::abs(top) == 1 ? partName(bottom) : partsName(bottom));
+    const PartNames* p = partNames(bottom);
+    if (top == 1)
+        return p ? translated(p->single) : QCoreApplication::translate("Fractions", "one %1th").arg(bottom);
+    // The count chooses a translation's plural form: French says "zéro quart".
+    const QString number = numberWord(top);
+    return p ? translated(p->several, top).arg(number)
+             : QCoreApplication::translate("Fractions", "%1 %2ths", nullptr, top).arg(number).arg(bottom);
+}
+
+QString mixedWords(int whole, int top, int bottom)
+{
+    if (top == 0)
+        return numberWord(whole);
+    if (whole == 0)
+        return words(top, bottom);
+    return QCoreApplication::translate("Fractions", "%1 and %2", "a mixed number: five and two thirds")
+        .arg(numberWord(whole), words(top, bottom));
 }
 
 } // namespace Fractions

@@ -48,11 +48,17 @@ private:
 // Whether top/bottom is written in lowest terms (bottom > 0).
 bool inLowestTerms(int top, int bottom);
 
+// Every word is in the language of the translation installed (English
+// without one).
+//
 // Words for a fraction as a child reads it aloud: "one half", "three
 // quarters", "two thirds", "seven tenths", "one hundredth", "37 hundredths"
 // (numbers from twenty-one up are written in figures). A top of 0 reads
 // "zero quarters"; a bottom of 1 reads as the whole number.
 QString words(int top, int bottom);
+// A mixed number in words: "five and two thirds"; a top of 0 reads as the
+// whole number alone, a whole of 0 as the fraction alone.
+QString mixedWords(int whole, int top, int bottom);
 // The name of one part: "half", "third", "quarter", "fifth", ... "twelfth",
 // "hundredth"; plural(d) the name of several: "halves", "thirds", "quarters".
 QString partName(int bottom);

@@ -9,21 +9,19 @@
 
 namespace HalvesOfNumbers {
 
-namespace {
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("HalvesOfNumbers", text);
-}
-} // namespace
-
 QString Question::instruction() const
 {
-    return tr("What is %1 of %2?").arg(Fractions::words(top, bottom)).arg(amount);
+    return QCoreApplication::translate("HalvesOfNumbers", "What is %1 of %2?")
+        .arg(Fractions::words(top, bottom))
+        .arg(amount);
 }
 
 QString Question::statement() const
 {
-    return tr("%1 of %2 is %3.").arg(Fractions::capitalised(Fractions::words(top, bottom))).arg(amount).arg(answer());
+    return QCoreApplication::translate("HalvesOfNumbers", "%1 of %2 is %3.")
+        .arg(Fractions::capitalised(Fractions::words(top, bottom)))
+        .arg(amount)
+        .arg(answer());
 }
 
 Question draw(Random::Source& rnd, const Question* last)
@@ -48,21 +46,25 @@ Verdict check(const Question& q, const QString& typed)
     bool isNumber = false;
     const int value = typed.toInt(&isNumber);
     if (typed.isEmpty() || !isNumber)
-        return Verdict::notCheckable(tr("Type your answer in the box first!"));
+        return Verdict::notCheckable(
+            QCoreApplication::translate("HalvesOfNumbers", "Type your answer in the box first!"));
     if (value == 0)
-        return Verdict::notCheckable(tr("0 is not the answer: look at the pictures again."));
+        return Verdict::notCheckable(
+            QCoreApplication::translate("HalvesOfNumbers", "0 is not the answer: look at the pictures again."));
     return value == q.answer() ? Verdict::right(q.statement()) : Verdict::wrong(q.statement());
 }
 
 QString hint(const Question& q, const QString& picname)
 {
     const int each = q.amount / q.bottom;
-    const QString share = tr("Share the %1 %2 into %3 equal groups: %4 in each group.")
-                              .arg(q.amount)
-                              .arg(picname)
-                              .arg(q.bottom)
-                              .arg(each);
-    const QString groups = q.top == 1 ? tr("%1 is 1 group: %2 %3.") : tr("%1 is %4 groups: %2 %3.");
+    const QString share
+        = QCoreApplication::translate("HalvesOfNumbers", "Share the %1 %2 into %3 equal groups: %4 in each group.")
+              .arg(q.amount)
+              .arg(picname)
+              .arg(q.bottom)
+              .arg(each);
+    const QString groups = q.top == 1 ? QCoreApplication::translate("HalvesOfNumbers", "%1 is 1 group: %2 %3.")
+                                      : QCoreApplication::translate("HalvesOfNumbers", "%1 is %4 groups: %2 %3.");
     return share + QLatin1Char(' ')
         + groups.arg(Fractions::capitalised(Fractions::words(q.top, q.bottom))).arg(q.answer()).arg(picname).arg(q.top);
 }

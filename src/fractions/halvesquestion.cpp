@@ -1,11 +1,18 @@
 #include "halvesquestion.h"
 
+#include <QCoreApplication>
+
 
 namespace Halves {
 
+QString setName(int set)
+{
+    return set >= 1 && set <= kSetCount ? QCoreApplication::translate("Halves", kPictureSets[set - 1].name) : QString();
+}
+
 QString Question::picname() const
 {
-    return set >= 1 && set <= kSetCount ? QString::fromLatin1(kPictureSets[set - 1].name) : QString();
+    return setName(set);
 }
 
 QString Question::pictureFile() const
@@ -13,19 +20,18 @@ QString Question::pictureFile() const
     return set >= 1 && set <= kSetCount ? QString::fromLatin1(kPictureSets[set - 1].file) : QString();
 }
 
-static QString fractionWord(int parts)
-{
-    return parts == 2 ? QStringLiteral("one half") : QStringLiteral("one quarter");
-}
-
 QString Question::instruction() const
 {
-    return QStringLiteral("Click on ") + fractionWord(parts) + QStringLiteral(" of the ") + picname();
+    return (parts == 2 ? QCoreApplication::translate("Halves", "Click on one half of the %1")
+                       : QCoreApplication::translate("Halves", "Click on one quarter of the %1"))
+        .arg(picname());
 }
 
 QString Question::rightAnswer() const
 {
-    return QStringLiteral("You chose ") + fractionWord(parts) + QStringLiteral(" of the ") + picname();
+    return (parts == 2 ? QCoreApplication::translate("Halves", "You chose one half of the %1")
+                       : QCoreApplication::translate("Halves", "You chose one quarter of the %1"))
+        .arg(picname());
 }
 
 Question drawQuestion(Random::Source& rnd, int lastset, int lasthowmany)
@@ -52,8 +58,10 @@ Question drawQuestion(Random::Source& rnd, int lastset, int lasthowmany)
 
 QString shouldHaveClicked(int target)
 {
-    return QStringLiteral("You should have clicked on ") + QString::number(target)
-        + (target == 1 ? QStringLiteral(" picture") : QStringLiteral(" pictures"));
+    // The English singular and plural are separate texts; the count also
+    // chooses a translation's own plural form.
+    return target == 1 ? QCoreApplication::translate("Halves", "You should have clicked on %n picture", nullptr, target)
+                       : QCoreApplication::translate("Halves", "You should have clicked on %n pictures", nullptr, target);
 }
 
 } // namespace Halves

@@ -5,19 +5,27 @@
 #include "runtime/random.h"
 
 #include <QString>
+#include <QtGlobal>
 
 namespace Halves {
 
 // The six picture sets, numbered 1..6 as the draw numbers them.
 struct PictureSet {
-    const char* name; // plural, as the instruction says it: "ducks"
+    const char* name; // plural, as the instruction says it: "ducks" (translated where shown: setName)
     const char* file; // asset path: "gif\wb01747_.gif"
 };
 inline constexpr PictureSet kPictureSets[] = {
-    {"holly", "gif\\leaf.gif"},      {"ducks", "gif\\wb01747_.gif"},   {"suns", "gif\\wb01330_.gif"},
-    {"dinosaurs", "gif\\wb01742_.gif"}, {"spiders", "gif\\wb01299_.gif"}, {"gorillas", "gif\\wb01746_.gif"},
+    {QT_TRANSLATE_NOOP("Halves", "holly"), "gif\\leaf.gif"},
+    {QT_TRANSLATE_NOOP("Halves", "ducks"), "gif\\wb01747_.gif"},
+    {QT_TRANSLATE_NOOP("Halves", "suns"), "gif\\wb01330_.gif"},
+    {QT_TRANSLATE_NOOP("Halves", "dinosaurs"), "gif\\wb01742_.gif"},
+    {QT_TRANSLATE_NOOP("Halves", "spiders"), "gif\\wb01299_.gif"},
+    {QT_TRANSLATE_NOOP("Halves", "gorillas"), "gif\\wb01746_.gif"},
 };
 inline constexpr int kSetCount = 6;
+
+// The set's name in the reader's language, "ducks"; empty outside 1..6.
+QString setName(int set);
 
 // A fraction as Year 2 asks for it, written as asked: two quarters stays
 // two quarters.

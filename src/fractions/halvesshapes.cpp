@@ -10,15 +10,12 @@
 namespace HalvesShapes {
 
 namespace {
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("HalvesShapes", text);
-}
-
-// "1 part", "3 parts"
-QString partCount(int n)
-{
-    return n == 1 ? tr("1 part") : tr("%1 parts").arg(n);
+    // "1 part", "3 parts": the English singular and plural are separate texts;
+    // the count also chooses a translation's own plural form.
+    QString partCount(int n)
+    {
+        return n == 1 ? QCoreApplication::translate("HalvesShapes", "%n part", nullptr, n)
+                      : QCoreApplication::translate("HalvesShapes", "%n parts", nullptr, n);
 }
 } // namespace
 
@@ -29,7 +26,7 @@ QString Question::fractionWords() const
 
 QString Question::instruction() const
 {
-    return tr("Colour %1 of the %2.").arg(fractionWords(), shapeNoun(kind));
+    return QCoreApplication::translate("HalvesShapes", "Colour %1 of the %2.").arg(fractionWords(), shapeNoun(kind));
 }
 
 Question draw(Random::Source& rnd, const Question* last)
@@ -56,26 +53,35 @@ Question draw(Random::Source& rnd, const Question* last)
 Verdict check(const Question& q, int coloured)
 {
     if (coloured <= 0)
-        return Verdict::notCheckable(tr("You must colour some parts!"));
+        return Verdict::notCheckable(QCoreApplication::translate("HalvesShapes", "You must colour some parts!"));
     const QString noun = shapeNoun(q.kind);
     if (Fractions::Fraction(coloured, q.parts) == Fractions::Fraction(q.top, q.bottom)) {
-        QString said = tr("You coloured %1 of the %2.").arg(q.fractionWords(), noun);
+        QString said
+            = QCoreApplication::translate("HalvesShapes", "You coloured %1 of the %2.").arg(q.fractionWords(), noun);
         if (q.parts == 4 && q.bottom == 2)
-            said += QLatin1Char(' ') + tr("Two quarters is the same as one half.");
+            said += QLatin1Char(' ')
+                + QCoreApplication::translate("HalvesShapes", "Two quarters is the same as one half.");
         return Verdict::right(said);
     }
-    return Verdict::wrong(tr("You coloured %1 of the %2 parts: that is %3. %4 is %5.")
-                              .arg(coloured)
-                              .arg(q.parts)
-                              .arg(Fractions::words(coloured, q.parts), Fractions::capitalised(q.fractionWords()),
-                                   partCount(q.partsToColour())));
+    return Verdict::wrong(
+        QCoreApplication::translate("HalvesShapes", "You coloured %1 of the %2 parts: that is %3. %4 is %5.")
+            .arg(coloured)
+            .arg(q.parts)
+            .arg(Fractions::words(coloured, q.parts), Fractions::capitalised(q.fractionWords()),
+                 partCount(q.partsToColour())));
 }
 
 QString hint(const Question& q, int coloured)
 {
-    const QString cut = tr("The %1 is cut into %2 equal parts.").arg(shapeNoun(q.kind)).arg(q.parts);
-    const QString asked = tr("%1 is %2 of them.").arg(Fractions::capitalised(q.fractionWords())).arg(q.partsToColour());
-    const QString now = coloured == 0 ? tr("You have not coloured any yet.") : tr("You have coloured %1.").arg(coloured);
+    const QString cut = QCoreApplication::translate("HalvesShapes", "The %1 is cut into %2 equal parts.")
+                            .arg(shapeNoun(q.kind))
+                            .arg(q.parts);
+    const QString asked = QCoreApplication::translate("HalvesShapes", "%1 is %2 of them.")
+                              .arg(Fractions::capitalised(q.fractionWords()))
+                              .arg(q.partsToColour());
+    const QString now = coloured == 0
+        ? QCoreApplication::translate("HalvesShapes", "You have not coloured any yet.")
+        : QCoreApplication::translate("HalvesShapes", "You have coloured %1.").arg(coloured);
     return cut + QLatin1Char(' ') + asked + QLatin1Char(' ') + now;
 }
 

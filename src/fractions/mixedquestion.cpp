@@ -3,6 +3,7 @@
 #include "runtime/random.h"
 #include "fraction.h"
 
+#include <QCoreApplication>
 #include <iterator>
 
 namespace {
@@ -15,9 +16,26 @@ constexpr int kSingularOffset = 9;
 
 // Indices 2..10 hold the plurals, 11..19 the singulars.
 constexpr const char* kFractionNames[] = {
-    "",        "",       "halves", "thirds", "quarters", "fifths",  "sixths",
-    "sevenths", "eighths", "ninths", "tenths", "half",     "third",   "quarter",
-    "fifth",   "sixth",  "seventh", "eighth", "ninth",    "tenth",
+    "",
+    "",
+    QT_TRANSLATE_NOOP("Fractions", "halves"),
+    QT_TRANSLATE_NOOP("Fractions", "thirds"),
+    QT_TRANSLATE_NOOP("Fractions", "quarters"),
+    QT_TRANSLATE_NOOP("Fractions", "fifths"),
+    QT_TRANSLATE_NOOP("Fractions", "sixths"),
+    QT_TRANSLATE_NOOP("Fractions", "sevenths"),
+    QT_TRANSLATE_NOOP("Fractions", "eighths"),
+    QT_TRANSLATE_NOOP("Fractions", "ninths"),
+    QT_TRANSLATE_NOOP("Fractions", "tenths"),
+    QT_TRANSLATE_NOOP("Fractions", "half"),
+    QT_TRANSLATE_NOOP("Fractions", "third"),
+    QT_TRANSLATE_NOOP("Fractions", "quarter"),
+    QT_TRANSLATE_NOOP("Fractions", "fifth"),
+    QT_TRANSLATE_NOOP("Fractions", "sixth"),
+    QT_TRANSLATE_NOOP("Fractions", "seventh"),
+    QT_TRANSLATE_NOOP("Fractions", "eighth"),
+    QT_TRANSLATE_NOOP("Fractions", "ninth"),
+    QT_TRANSLATE_NOOP("Fractions", "tenth"),
 };
 constexpr int kFractionNameCount = int(std::size(kFractionNames));
 
@@ -39,7 +57,10 @@ QString num(int n)
 
 QString fractionnames(int index)
 {
-    return index >= 0 && index < kFractionNameCount ? QString::fromLatin1(kFractionNames[index]) : QString();
+    // The names are the fraction words' own, translated in the same context.
+    return index >= 0 && index < kFractionNameCount && *kFractionNames[index]
+        ? QCoreApplication::translate("Fractions", kFractionNames[index])
+        : QString();
 }
 
 qint16 MixedQuestion::improperNumerator() const
@@ -50,9 +71,13 @@ qint16 MixedQuestion::improperNumerator() const
 QString MixedQuestion::answerText() const
 {
     const QString improper = num(improperNumerator()) + QLatin1Char('/') + num(denom);
-    const QString mixed = num(whole) + QStringLiteral(" and ") + num(numer) + QLatin1Char('/') + num(denom);
-    return direction == kToMixed ? improper + QStringLiteral(" is ") + mixed
-                                 : mixed + QStringLiteral(" is ") + improper;
+    const QString mixed = QCoreApplication::translate("MixedQuestion", "%1 and %2/%3", "a mixed number: 2 and 3/4")
+                              .arg(whole)
+                              .arg(numer)
+                              .arg(denom);
+    const QString is
+        = QCoreApplication::translate("MixedQuestion", "%1 is %2", "one number is another: 11/4 is 2 and 3/4");
+    return direction == kToMixed ? is.arg(improper, mixed) : is.arg(mixed, improper);
 }
 
 bool MixedQuestion::isAnswer(const Entries& typed) const
@@ -68,14 +93,16 @@ QString MixedQuestion::hintText() const
 {
     const QString plural = fractionnames(denom);
     const QString parts = numer == 1 ? fractionnames(denom + kSingularOffset) : plural;
-    if (direction == kToMixed)
-        return num(denom * whole) + QLatin1Char(' ') + plural + QStringLiteral(" is ") + num(whole)
-            + (whole == 1 ? QStringLiteral(" whole one with ") : QStringLiteral(" whole ones with ")) + num(numer)
-            + QLatin1Char(' ') + parts + QStringLiteral(" left over.");
-    return QStringLiteral("Each whole number is ") + num(denom) + QLatin1Char(' ') + plural
-        + QStringLiteral(". You have ") + num(whole)
-        + (whole == 1 ? QStringLiteral(" whole number and ") : QStringLiteral(" whole numbers and ")) + num(numer)
-        + QLatin1Char(' ') + parts + QLatin1Char('.');
+    // The English singular and plural are separate texts; the count of
+    // wholes also chooses a translation's own plural form.
+    const char* const sentence = direction == kToMixed
+        ? (whole == 1 ? QT_TRANSLATE_N_NOOP("MixedQuestion", "%1 %2 is %n whole one with %3 %4 left over.")
+                      : QT_TRANSLATE_N_NOOP("MixedQuestion", "%1 %2 is %n whole ones with %3 %4 left over."))
+        : (whole == 1
+               ? QT_TRANSLATE_N_NOOP("MixedQuestion", "Each whole number is %1 %2. You have %n whole number and %3 %4.")
+               : QT_TRANSLATE_N_NOOP("MixedQuestion", "Each whole number is %1 %2. You have %n whole numbers and %3 %4."));
+    const QString first = direction == kToMixed ? num(denom * whole) : num(denom);
+    return QCoreApplication::translate("MixedQuestion", sentence, nullptr, whole).arg(first, plural, num(numer), parts);
 }
 
 QString MixedQuestion::productText() const

@@ -38,7 +38,7 @@ const QColor kMessageInk{255, 236, 120};
 QString titleOf(const QString& screen)
 {
     const Activities::Row* row = Activities::forScreen(screen);
-    return row ? QString::fromLatin1(row->title) : screen;
+    return row ? Activities::titleText(*row) : screen;
 }
 
 } // namespace
@@ -47,12 +47,12 @@ KitScreen::KitScreen(const QString& name, KitBoard* board)
     : ActivityForm(name)
     , Label1(wordLabel(this, QStringLiteral("Label1"), QString(), 14, kInstructionInk))
     , Label2(wordLabel(this, QStringLiteral("Label2"), QString(), 14, kMessageInk))
-    , Label8(wordLabel(this, QStringLiteral("Label8"), QStringLiteral("Click Start to have another go... or click Exit"), 16,
-                   kInstructionInk))
-    , Label3(wordLabel(Picture1, QStringLiteral("Label3"), QStringLiteral("Good Luck."), 18, kMessageInk))
+    , Label8(wordLabel(this, QStringLiteral("Label8"), tr("Click Start to have another go... or click Exit"), 16,
+                       kInstructionInk))
+    , Label3(wordLabel(Picture1, QStringLiteral("Label3"), tr("Good Luck."), 18, kMessageInk))
     , Label4(wordLabel(Picture1, QStringLiteral("Label4"), titleOf(name), 26, kInstructionInk))
-    , Label6(wordLabel(Picture1, QStringLiteral("Label6"), QStringLiteral("Aim to get 10 or 20 questions correct to gain a certificate."),
-                   14, kInstructionInk))
+    , Label6(wordLabel(Picture1, QStringLiteral("Label6"),
+                       tr("Aim to get 10 or 20 questions correct to gain a certificate."), 14, kInstructionInk))
     , Frame1(new QFrame(this))
     , Frame2(new QFrame(this))
     , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
@@ -176,7 +176,7 @@ void KitScreen::cmdcheck_Click()
     if (verdict.kind == Verdict::Right)
         run().right(verdict.statement, Timer3);
     else
-        run().wrong(tr("Not quite. ") + verdict.statement, Timer3);
+        run().wrong(tr("Not quite. %1").arg(verdict.statement), Timer3);
 }
 
 void KitScreen::boardRefused(const QString& message)

@@ -8,6 +8,7 @@
 #include "runtime/twips.h"
 #include "shell/module1.h"
 
+#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QPushButton>
@@ -55,13 +56,13 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
     , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
     , Timer2(design.secondStartupTimer ? addTimer(QStringLiteral("Timer2"), kTimer2Ms) : nullptr)
     , Command4(nullptr) // made after the activities: Tab reaches it last
-    , Label1(MenuLook::label(this, QStringLiteral("Label1"), QString::fromLatin1(design.yearLabel),
+    , Label1(MenuLook::label(this, QStringLiteral("Label1"), QCoreApplication::translate("Year", design.yearLabel),
                         Twips::font(QStringLiteral("Times New Roman"), 20, true), kYearInk))
     , Label4(MenuLook::label(this, QStringLiteral("Label4"), QStringLiteral("Partitude"),
                         Twips::font(QStringLiteral("Times New Roman"), 32, true)))
     , m_design(design)
 {
-    setWindowTitle(QString::fromLatin1(design.caption));
+    setWindowTitle(QCoreApplication::translate("Menus", design.caption));
     setDesignSize(kScreenWidthTwips, kScreenHeightTwips);
     setBackColour(kBack);
 
@@ -93,15 +94,15 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
         button->setIconSize(QSize(28, 28));
         // The arrow shows no words; the activity's title is its tip and
         // the name a screen reader speaks.
-        button->setToolTip(QString::fromLatin1(activity.title));
+        button->setToolTip(Activities::titleText(activity));
         button->setAccessibleName(button->toolTip());
-        button->setAccessibleDescription(activity.subMenu ? QStringLiteral("Open more activities")
-                                                          : QStringLiteral("Open this activity"));
+        button->setAccessibleDescription(activity.subMenu ? tr("Open more activities")
+                                                          : tr("Open this activity"));
         Twips::place(button, kButtonLeft, top + (pitch - kButtonHeight) / 2, kButtonWidth, kButtonHeight);
         connect(button, &QPushButton::clicked, this, [this, &activity] { open(activity); });
         buttons.append(button);
 
-        QLabel* title = MenuLook::label(this, QStringLiteral("Label12(%1)").arg(i), QString::fromLatin1(activity.title),
+        QLabel* title = MenuLook::label(this, QStringLiteral("Label12(%1)").arg(i), Activities::titleText(activity),
                                    QFont());
         title->setWordWrap(true);
         title->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -113,11 +114,11 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
     // The way back, made last: Tab and a screen reader take the activities
     // top to bottom and then Goodbye, and the first activity has the focus
     // when the menu opens.
-    Command4 = new QPushButton(QStringLiteral("Goodbye"), this);
+    Command4 = new QPushButton(tr("Goodbye"), this);
     Command4->setObjectName(QStringLiteral("Command4"));
     Command4->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
     Command4->setIconSize(QSize(32, 32));
-    Command4->setToolTip(QStringLiteral("Go back"));
+    Command4->setToolTip(tr("Go back"));
     Twips::place(Command4, kLeftColumn, 5340, 2160, 780);
 
     connect(Command4, &QPushButton::clicked, this, &ActivityMenu::Command4_Click);
@@ -135,7 +136,7 @@ void ActivityMenu::Form_Load()
     setButtonPicture(Command4, QStringLiteral("ico\\door2.ico"));
     Picture2->load(Logo::bitmapFile(m_design.logo));
     if (Module1::version == QLatin1String("1"))
-        Label1->setText(QString::fromLatin1(m_design.unitLabel));
+        Label1->setText(QCoreApplication::translate("Year", m_design.unitLabel));
     Module1::centreform(*this);
     Timer4->setEnabled(true);
     Timer1->setEnabled(true);
@@ -154,7 +155,7 @@ void ActivityMenu::open(const Activities::Row& activity)
         target = Forms::load(screen);
     } else {
         auto* soon = Forms::load<Comingsoon>();
-        soon->setActivity(QString::fromLatin1(activity.title), objectName());
+        soon->setActivity(Activities::titleText(activity), objectName());
         target = soon;
     }
     if (auto* prompt = target->findChild<QLabel*>(QStringLiteral("Label6")))

@@ -18,10 +18,10 @@ Comingsoon::Comingsoon()
     : Form(QStringLiteral("Comingsoon"))
     , Picture1(new PictureBox(this, QStringLiteral("Picture1")))
     , Label1(new QLabel(this))
-    , Label2(new QLabel(QStringLiteral("This activity is still being made.\n"
-                                       "Click Goodbye and choose another one for now."),
+    , Label2(new QLabel(tr("This activity is still being made.\n"
+                               "Click Goodbye and choose another one for now."),
                         this))
-    , cmdexit(new QPushButton(QStringLiteral("Goodbye"), this))
+    , cmdexit(new QPushButton(tr("Goodbye"), this))
 {
     setDesignSize(kScreenWidthTwips, kScreenHeightTwips);
     setBackColour(Module1::kActivityBack);

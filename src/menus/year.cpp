@@ -18,11 +18,11 @@
 #include <QUrl>
 
 const Year::Choice Year::kChoices[5] = {
-    {"Command5", "Year 2", "Unit 1", 10, "y2Intro"},
-    {"Command2", "Year 3", "Unit 2", 10, "y3Intro"},
-    {"Command3", "Year 4", "Unit 3", 20, "y4Intro"},
-    {"Command6", "Year 5", "Unit 4", 20, "y5Intro"},
-    {"Command1", "Year 6", "Unit 5", 20, "y6Intro"},
+    {"Command5", QT_TRANSLATE_NOOP("Year", "Year 2"), QT_TRANSLATE_NOOP("Year", "Unit 1"), 10, "y2Intro"},
+    {"Command2", QT_TRANSLATE_NOOP("Year", "Year 3"), QT_TRANSLATE_NOOP("Year", "Unit 2"), 10, "y3Intro"},
+    {"Command3", QT_TRANSLATE_NOOP("Year", "Year 4"), QT_TRANSLATE_NOOP("Year", "Unit 3"), 20, "y4Intro"},
+    {"Command6", QT_TRANSLATE_NOOP("Year", "Year 5"), QT_TRANSLATE_NOOP("Year", "Unit 4"), 20, "y5Intro"},
+    {"Command1", QT_TRANSLATE_NOOP("Year", "Year 6"), QT_TRANSLATE_NOOP("Year", "Unit 5"), 20, "y6Intro"},
 };
 
 namespace {
@@ -47,7 +47,7 @@ constexpr int kFrameWidth = 2400;
 // What a year button stands for in the edition in use: "Year 2" or "Unit 1".
 QString editionLabel(const Year::Choice& choice)
 {
-    return QString::fromLatin1(Module1::version == QLatin1String("1") ? choice.unitLabel : choice.yearLabel);
+    return Year::tr(Module1::version == QLatin1String("1") ? choice.unitLabel : choice.yearLabel);
 }
 
 QPushButton* arrowButton(QWidget* parent, const char* name)
@@ -77,7 +77,7 @@ Year::Year()
     , Command4(arrowButton(this, "Command4"))
     , Frame1(new QFrame(this))
     , Label3(MenuLook::label(this, QStringLiteral("Label3"), QString(), Twips::font(QStringLiteral("Arial"), 9, false)))
-    , Label2(MenuLook::label(this, QStringLiteral("Label2"), QStringLiteral("Fractions made friendly"),
+    , Label2(MenuLook::label(this, QStringLiteral("Label2"), tr("Fractions made friendly"),
                    Twips::font(QStringLiteral("Arial"), 9, true)))
     , Label4(MenuLook::label(this, QStringLiteral("Label4"), QStringLiteral("Partitude"),
                    Twips::font(QStringLiteral("Times New Roman"), 40, true)))
@@ -100,7 +100,7 @@ Year::Year()
                         .arg(Publisher::kWebAddress,
                              QUrl(Publisher::kWebAddress).host()));
     Label3->setCursor(Qt::PointingHandCursor);
-    Label3->setToolTip(QStringLiteral("Visit our web site"));
+    Label3->setToolTip(tr("Visit our web site"));
     Twips::place(Label3, kLeftColumn, 4920, 3000, 300);
 
     // Right: a year button beside each year's name. The buttons are made in
@@ -123,22 +123,22 @@ Year::Year()
         before = button;
 
         QLabel* year = MenuLook::label(Frame1, QStringLiteral("Label12(%1)").arg(i),
-                             QStringLiteral("Year %1").arg(i + 2),
+                             tr(kChoices[i].yearLabel),
                              Twips::font(QStringLiteral("Times New Roman"), 22, true), kYearInk);
         Twips::place(year, 360, top - (kRowTop - 120), kFrameWidth - 480, kYearButtonHeight);
         year->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         Label12.append(year);
     }
 
-    Command4->setToolTip(QStringLiteral("Back to the start"));
+    Command4->setToolTip(tr("Back to the start"));
     Command4->setAccessibleName(Command4->toolTip());
-    Command4->setAccessibleDescription(QStringLiteral("Go back to the first screen"));
+    Command4->setAccessibleDescription(tr("Go back to the first screen"));
     Twips::place(Command4, 8160, 5520, 1080, 840);
     Command4->raise();
     setTabOrder(before, Command4);
 
     // The sound switch, under the publisher's lines.
-    Check1 = new QCheckBox(QStringLiteral("  Play Sound"), this);
+    Check1 = new QCheckBox(tr("  Play Sound"), this);
     Check1->setObjectName(QStringLiteral("Check1"));
     Check1->setAccessibleName(Check1->text().trimmed());
     Check1->setChecked(true);
@@ -169,7 +169,7 @@ void Year::Form_Load()
     if (Module1::version == QLatin1String("1")) {
         // The labels keep the number's leading blank: "Unit  1".
         for (int i = 0; i < 5; ++i)
-            Label12[i]->setText(QStringLiteral("Unit ") + QStringLiteral(" %1").arg(i + 1));
+            Label12[i]->setText(tr("Unit  %1").arg(i + 1));
     }
     if (Module1::soundoption == 0)
         Check1->setChecked(false);
@@ -179,7 +179,7 @@ void Year::Form_Load()
         QPushButton* button = findChild<QPushButton*>(QString::fromLatin1(choice.button));
         button->setToolTip(editionLabel(choice));
         button->setAccessibleName(editionLabel(choice));
-        button->setAccessibleDescription(QStringLiteral("Open the activities of %1").arg(editionLabel(choice)));
+        button->setAccessibleDescription(tr("Open the activities of %1").arg(editionLabel(choice)));
         setButtonPicture(button, QStringLiteral("ico\\arw05rt.ico"));
     }
     setButtonPicture(Command4, QStringLiteral("ico\\door2.ico"));
@@ -198,7 +198,7 @@ void Year::choose(const Choice& choice)
 void Year::Command4_Click()
 {
     // Touching the title screen loads it afresh; it now leads back here.
-    Forms::load<Titlefrm>()->Command1->setText(QStringLiteral("Cancel"));
+    Forms::load<Titlefrm>()->Command1->setText(tr("Cancel"));
     Forms::unload(this);
     Forms::show<Titlefrm>()->Command2->setEnabled(true);
 }

@@ -113,12 +113,13 @@ void Welldone::printcertificate()
     try {
         const bool practice = Module1::challenge == 0;
         const QString product = QStringLiteral("Partitude");
-        const QString headline = practice ? QStringLiteral("Excellent!") : QStringLiteral("Congratulations!!!");
-        const QString sentence = practice ? QStringLiteral("you have completed the work successfully")
-                                          : QStringLiteral("you have risen to the Challenge");
+        const QString headline = practice ? tr("Excellent!") : tr("Congratulations!!!");
+        const QString sentence = practice ? tr("you have completed the work successfully")
+                                          : tr("you have risen to the Challenge");
         const QString name = Text1->text();
-        const QString when = QLocale(QLocale::English, QLocale::UnitedKingdom)
-                                 .toString(QDate::currentDate(), QStringLiteral("d MMMM yyyy"));
+        // The date is written in the language the certificate is printed in.
+        //: The locale whose month names and date order the certificate uses.
+        const QString when = QLocale(tr("en_GB")).toString(QDate::currentDate(), tr("d MMMM yyyy"));
         const QString underTitle = Module1::yearlabel.isEmpty() ? when : Module1::yearlabel + QStringLiteral("   ") + when;
 
         Printer& p = printer();
@@ -131,7 +132,7 @@ void Welldone::printcertificate()
         p.print(QStringLiteral(" "));
         for (int i = 0; i < 2; ++i) {
             p.CurrentX = p.scaleWidth() / 8;
-            p.print(kBanner);
+            p.print(banner());
         }
         blankLines(p, 1);
 
@@ -163,6 +164,6 @@ void Welldone::printcertificate()
     } catch (const PrintCancelled&) {
         throw; // the caller says the printing was cancelled
     } catch (...) {
-        MsgBox::show(QStringLiteral("There was a problem printing to your printer."));
+        MsgBox::show(tr("There was a problem printing to your printer."));
     }
 }

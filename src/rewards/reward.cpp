@@ -20,9 +20,9 @@ constexpr int kOffsetTop = 615 + 435;
 constexpr int kOffsetLeft = 3600 + 60;
 constexpr int kMiddleFrame = 50;
 
-QLabel* messageLabel(QWidget* parent, const char* name, const char* text, int top)
+QLabel* messageLabel(QWidget* parent, const char* name, const QString& text, int top)
 {
-    auto* label = new QLabel(QString::fromLatin1(text), parent);
+    auto* label = new QLabel(text, parent);
     label->setObjectName(QString::fromLatin1(name));
     label->setFont(Twips::font(QStringLiteral("Times New Roman"), 16, true));
     label->setWordWrap(true);
@@ -35,8 +35,8 @@ QLabel* messageLabel(QWidget* parent, const char* name, const char* text, int to
 
 Reward::Reward()
     : Form(QStringLiteral("Reward"))
-    , Label1(messageLabel(this, "Label1", "You have been unsuccessful in the Challenge.", 300))
-    , Label2(messageLabel(this, "Label2", "The Challenge will begin again.", 2100))
+    , Label1(messageLabel(this, "Label1", tr("You have been unsuccessful in the Challenge."), 300))
+    , Label2(messageLabel(this, "Label2", tr("The Challenge will begin again."), 2100))
     , Image2(new PictureBox(this, QStringLiteral("Image2")))
     , Timer1(addTimer(QStringLiteral("Timer1"), kStarFrameMs))
     , Timer2(addTimer(QStringLiteral("Timer2"), kRetryMessageMs))

@@ -20,9 +20,9 @@ constexpr int kWidth = 7680;
 constexpr int kHeight = 6420;
 constexpr int kInside = kWidth - Form::kBorderWidthTwips;
 
-QLabel* wordLabel(QWidget* parent, const char* name, const char* text, double points)
+QLabel* wordLabel(QWidget* parent, const char* name, const QString& text, double points)
 {
-    auto* label = new QLabel(QString::fromLatin1(text), parent);
+    auto* label = new QLabel(text, parent);
     label->setObjectName(QString::fromLatin1(name));
     label->setFont(Twips::font(QStringLiteral("Times New Roman"), points, true));
     label->setWordWrap(true);
@@ -34,18 +34,18 @@ QLabel* wordLabel(QWidget* parent, const char* name, const char* text, double po
 
 Welldone::Welldone()
     : Form(QStringLiteral("Welldone"))
-    , Label1(wordLabel(this, "Label1", "Excellent work you have completed this task successfully", 16))
+    , Label1(wordLabel(this, "Label1", tr("Excellent work you have completed this task successfully"), 16))
     , Picture1(new PictureBox(this, QStringLiteral("Picture1")))
     , Text1(new QLineEdit(this))
-    , Label2(wordLabel(this, "Label2", "Enter your name in the box above before printing your certificate", 11))
-    , Command2(new QPushButton(QStringLiteral("Print Certificate"), this))
+    , Label2(wordLabel(this, "Label2", tr("Enter your name in the box above before printing your certificate"), 11))
+    , Command2(new QPushButton(tr("Print Certificate"), this))
     , cmdexit(new QPushButton(this))
     , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
     , Timer2(addTimer(QStringLiteral("Timer2"), kTimer2Ms))
     , Timer3(addTimer(QStringLiteral("Timer3"), kTimer3Ms))
     , Timer4(addTimer(QStringLiteral("Timer4"), kTimer4Ms))
 {
-    setWindowTitle(QStringLiteral("Well Done!"));
+    setWindowTitle(tr("Well Done!"));
     setDesignSize(kWidth, kHeight);
     setBackColour(Module1::kActivityBack);
     // The activity waits behind until the child leaves.
@@ -58,7 +58,7 @@ Welldone::Welldone()
     Twips::move(Picture1, (kInside - Twips::fromPixels(Picture1->width())) / 2, 1020);
 
     Text1->setObjectName(QStringLiteral("Text1"));
-    Text1->setAccessibleName(QStringLiteral("your name"));
+    Text1->setAccessibleName(tr("your name"));
     Text1->setFont(Twips::font(QStringLiteral("Times New Roman"), 18, true));
     Text1->setAlignment(Qt::AlignCenter);
     Text1->setMaxLength(40);
@@ -71,7 +71,7 @@ Welldone::Welldone()
     Twips::place(Command2, 1200, 4860, 3000, 720);
     cmdexit->setObjectName(QStringLiteral("cmdexit"));
     cmdexit->setIconSize(QSize(32, 32));
-    cmdexit->setToolTip(QStringLiteral("Goodbye"));
+    cmdexit->setToolTip(tr("Goodbye"));
     cmdexit->setAccessibleName(cmdexit->toolTip());
     Twips::place(cmdexit, kInside - 1200 - 1080, 4860, 1080, 720);
 
@@ -83,8 +83,10 @@ Welldone::Welldone()
     connect(Timer4, &QTimer::timeout, this, &Welldone::Timer4_Timer);
 }
 
-const QString Welldone::kBanner =
-    QStringLiteral("   Well Done      Well Done     Well Done     Well Done    ");
+QString Welldone::banner()
+{
+    return tr("   Well Done      Well Done     Well Done     Well Done    ");
+}
 
 void Welldone::Form_Load()
 {
@@ -93,7 +95,7 @@ void Welldone::Form_Load()
     Module1::questions = Module1::streak;
     Module1::centreform(*this);
     if (Module1::challenge > 0) {
-        Label1->setText(QStringLiteral("Congratulations!!! You have risen to the Challenge."));
+        Label1->setText(tr("Congratulations!!! You have risen to the Challenge."));
         Timer1->setEnabled(true);
     }
     setIconPicture(QStringLiteral("ico\\fraction.ico"));
@@ -133,7 +135,7 @@ void Welldone::Command2_Click()
     try {
         printcertificate();
     } catch (...) {
-        MsgBox::show(QStringLiteral("Printing has been cancelled."));
+        MsgBox::show(tr("Printing has been cancelled."));
     }
 }
 

@@ -38,7 +38,7 @@ public:
     int frame() const { return m_frame; }
 
     // The banner across the top of the certificate.
-    static const QString kBanner;
+    static QString banner();
 
 public slots:
     void Form_Load();

@@ -12,21 +12,23 @@
 
 namespace {
 
+// The help text is translated when the parser is made, after the program's
+// translation is installed.
 struct Parser {
     QCommandLineParser parser;
     QCommandLineOption assets{QStringLiteral("assets"),
-                              QStringLiteral("Folder holding the program's pictures and sounds (ico, gif, bmp, jpg2, reward, wmf, wav)."),
-                              QStringLiteral("DIR")};
+                              QCoreApplication::translate("Options", "Folder holding the program's pictures and sounds (ico, gif, bmp, jpg2, reward, wmf, wav)."),
+                              QCoreApplication::translate("Options", "DIR")};
     QCommandLineOption settings{QStringLiteral("settings"),
-                                QStringLiteral("Folder holding primary.inf and sound.inf; point every account at one shared folder to share the choice."),
-                                QStringLiteral("DIR")};
+                                QCoreApplication::translate("Options", "Folder holding primary.inf and sound.inf; point every account at one shared folder to share the choice."),
+                                QCoreApplication::translate("Options", "DIR")};
     QCommandLineOption pdf{QStringLiteral("print-to-pdf"),
-                           QStringLiteral("Print every page to a new PDF file in DIR instead of the printer."),
-                           QStringLiteral("DIR")};
+                           QCoreApplication::translate("Options", "Print every page to a new PDF file in DIR instead of the printer."),
+                           QCoreApplication::translate("Options", "DIR")};
 
     Parser()
     {
-        parser.setApplicationDescription(QStringLiteral("Partitude: fractions practice and Challenges for Years 2 to 6."));
+        parser.setApplicationDescription(QCoreApplication::translate("Options", "Partitude: fractions practice and Challenges for Years 2 to 6."));
         parser.addHelpOption();
         parser.addVersionOption();
         parser.addOption(assets);

@@ -3,6 +3,7 @@
 #include "msgbox.h"
 
 #include <QCache>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QHash>
@@ -99,15 +100,18 @@ void clearCache()
 
 QString missingMessage(const QString& assetPath)
 {
-    return QStringLiteral("Partitude cannot go on: the picture file \"%1\" is missing or cannot be read.\n\n"
-                          "Partitude looks for its pictures in the folder:\n%2")
+    return QCoreApplication::translate("Pictures",
+                                       "Partitude cannot go on: the picture file \"%1\" is missing or cannot be read.\n\n"
+                                       "Partitude looks for its pictures in the folder:\n%2")
         .arg(assetPath, QDir::toNativeSeparators(QDir(g_folder).absolutePath()));
 }
 
 QString refusedMessage(const QString& assetPath, const QString& reason)
 {
-    return QStringLiteral("Partitude cannot go on: the picture file \"%1\" cannot be read: %2.\n\n"
-                          "Partitude looks for its pictures in the folder:\n%3")
+    // The reason names bytes and records of the file, for whoever mends it.
+    return QCoreApplication::translate("Pictures",
+                                       "Partitude cannot go on: the picture file \"%1\" cannot be read: %2.\n\n"
+                                       "Partitude looks for its pictures in the folder:\n%3")
         .arg(assetPath, reason, QDir::toNativeSeparators(QDir(g_folder).absolutePath()));
 }
 

@@ -23,9 +23,9 @@ QPushButton* commonButton(QWidget* parent, const char* name)
     return button;
 }
 
-QRadioButton* questionsOption(QWidget* parent, const char* name, const char* caption, int length)
+QRadioButton* questionsOption(QWidget* parent, const char* name, const QString& caption, int length)
 {
-    auto* option = new QRadioButton(QString::fromLatin1(caption), parent);
+    auto* option = new QRadioButton(caption, parent);
     option->setObjectName(QString::fromLatin1(name));
     // A radio button fills with the Button colour; these take the back
     // colour their screen gives them.
@@ -63,18 +63,18 @@ ActivityForm::ActivityForm(const QString& name, QWidget* parent)
     , cmdexit(commonButton(this, "cmdexit"))
     , Picture1(new PictureBox(this, QStringLiteral("Picture1")))
     , Image2(new PictureBox(this, QStringLiteral("Image2")))
-    , Option1(questionsOption(this, "Option1", "10 Questions", kShortRun))
-    , Option2(questionsOption(this, "Option2", "20 Questions", kLongRun))
+    , Option1(questionsOption(this, "Option1", tr("10 Questions"), kShortRun))
+    , Option2(questionsOption(this, "Option2", tr("20 Questions"), kLongRun))
     , m_run(new Run(*this))
 {
     Image2->setAutoSize(true);
     Image2->hide();
     // The design captions; setupform renames the print button.
-    cmdprint->setText(QStringLiteral("Print WorkSheet"));
-    cmdstart->setText(QStringLiteral("Start"));
-    cmdcheck->setText(QStringLiteral("Check Answers"));
-    cmdhint->setText(QStringLiteral("Hint"));
-    cmdexit->setText(QStringLiteral("Exit"));
+    cmdprint->setText(tr("Print WorkSheet"));
+    cmdstart->setText(tr("Start"));
+    cmdcheck->setText(tr("Check Answers"));
+    cmdhint->setText(tr("Hint"));
+    cmdexit->setText(tr("Exit"));
     // Each caption under its picture, as the buttons are designed.
     auto* buttonLook = new CaptionBelowIconStyle(this);
     for (QPushButton* b : {cmdprint, cmdstart, cmdcheck, cmdhint, cmdexit})
@@ -146,8 +146,9 @@ void ActivityForm::showQuestionsChoice()
 
 QString ActivityForm::readyText(const QString& streakText)
 {
-    return QStringLiteral("  You are now ready for the Challenge.  ") + streakText
-        + QStringLiteral(" correct answers on the run, with no hints. Click Start to take the Challenge.");
+    return tr("  You are now ready for the Challenge.  %1 correct answers on the run, with no hints. "
+              "Click Start to take the Challenge.")
+        .arg(streakText);
 }
 
 void ActivityForm::showReadyMessage(QLabel* label, const QString& streakText)

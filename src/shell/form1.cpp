@@ -32,12 +32,12 @@ template <class W> W* named(W* widget, const char* name)
 
 Form1::Form1()
     : Form(QStringLiteral("Form1"))
-    , Command1(named(new QPushButton(QStringLiteral("OK"), this), "Command1"))
+    , Command1(named(new QPushButton(tr("OK"), this), "Command1"))
     , Frame1(named(new QGroupBox(this), "Frame1"))
-    , Option2(named(new QRadioButton(QStringLiteral("  Secondary School version"), Frame1), "Option2"))
-    , Option1(named(new QRadioButton(QStringLiteral("  Primary School version"), Frame1), "Option1"))
-    , Check2(named(new QCheckBox(QStringLiteral("  Remove option to play sound"), this), "Check2"))
-    , Label3(named(new QLabel(QStringLiteral("Please choose the version of Partitude that you require"), this), "Label3"))
+    , Option2(named(new QRadioButton(tr("  Secondary School version"), Frame1), "Option2"))
+    , Option1(named(new QRadioButton(tr("  Primary School version"), Frame1), "Option1"))
+    , Check2(named(new QCheckBox(tr("  Remove option to play sound"), this), "Check2"))
+    , Label3(named(new QLabel(tr("Please choose the version of Partitude that you require"), this), "Label3"))
     , Frame2(named(new QFrame(this), "Frame2"))
 {
     setWindowTitle(QStringLiteral("Partitude"));
@@ -65,7 +65,7 @@ Form1::Form1()
     // The captions start with blanks, which a screen reader need not hear.
     for (QAbstractButton* choice : std::initializer_list<QAbstractButton*>{Option1, Option2, Check2})
         choice->setAccessibleName(choice->text().trimmed());
-    Command1->setAccessibleDescription(QStringLiteral("Keep these choices and go on to choose your year"));
+    Command1->setAccessibleDescription(tr("Keep these choices and go on to choose your year"));
     Twips::place(Check2, 1320, 3240, 4800, 480);
 
     Command1->setFont(Twips::font(QStringLiteral("Liberation Sans"), 12, true));

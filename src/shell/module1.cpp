@@ -10,6 +10,7 @@
 #include "runtime/random.h"
 #include "runtime/twips.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <algorithm>
@@ -50,12 +51,12 @@ void setupform(ActivityForm& form)
     Twips::move(form.cmdexit, kExitLeft, kButtonTop);
     form.Picture1->move(Twips::toPixels(kPanelLeft), form.Picture1->y());
 
-    form.cmdcheck->setToolTip(QStringLiteral("Check Your Answer"));
-    form.cmdstart->setToolTip(QStringLiteral("Press To Start"));
-    form.cmdprint->setToolTip(QStringLiteral("Print A Worksheet"));
-    form.cmdexit->setToolTip(QStringLiteral("Goodbye"));
-    form.cmdhint->setToolTip(QStringLiteral("Get Some Help"));
-    form.cmdprint->setText(QStringLiteral("Print A Worksheet"));
+    form.cmdcheck->setToolTip(QCoreApplication::translate("Module1", "Check Your Answer"));
+    form.cmdstart->setToolTip(QCoreApplication::translate("Module1", "Press To Start"));
+    form.cmdprint->setToolTip(QCoreApplication::translate("Module1", "Print A Worksheet"));
+    form.cmdexit->setToolTip(QCoreApplication::translate("Module1", "Goodbye"));
+    form.cmdhint->setToolTip(QCoreApplication::translate("Module1", "Get Some Help"));
+    form.cmdprint->setText(QCoreApplication::translate("Module1", "Print A Worksheet"));
 
     form.setDesignSize(Form::kScreenWidthTwips, Form::kScreenHeightTwips);
     form.setScaleSize(kActivityScaleWidth, kActivityScaleHeight);
@@ -81,7 +82,7 @@ void praise()
 {
     Random::Randomize();
     const int n = static_cast<int>(Random::Rnd() * kPraiseCount + 1);
-    praisetext = QString::fromLatin1(kPraise[n - 1]);
+    praisetext = QCoreApplication::translate("Module1", kPraise[n - 1]);
 }
 
 void pickpicture(ActivityForm& form)

@@ -4,6 +4,7 @@
 // Integers that the screens never assigned are 0; texts are "".
 #include <QColor>
 #include <QString>
+#include <QtGlobal>
 
 class ActivityForm;
 class Form;
@@ -53,9 +54,20 @@ inline constexpr int kRewardSetCount = 10;
 inline constexpr int kLastRewardFrame = 20;
 
 // The twelve praise phrases, each with its trailing blank.
+// (translated where shown)
 inline constexpr const char* kPraise[] = {
-    "Well done! ", "Good work! ", "Cool! ",    "Smart cookie! ", "Yes! ",   "Great! ",
-    "Yipee! ",     "Brilliant! ", "Wicked! ", "Wonderful! ",    "Super! ", "Excellent! ",
+    QT_TRANSLATE_NOOP("Module1", "Well done! "),
+    QT_TRANSLATE_NOOP("Module1", "Good work! "),
+    QT_TRANSLATE_NOOP("Module1", "Cool! "),
+    QT_TRANSLATE_NOOP("Module1", "Smart cookie! "),
+    QT_TRANSLATE_NOOP("Module1", "Yes! "),
+    QT_TRANSLATE_NOOP("Module1", "Great! "),
+    QT_TRANSLATE_NOOP("Module1", "Yipee! "),
+    QT_TRANSLATE_NOOP("Module1", "Brilliant! "),
+    QT_TRANSLATE_NOOP("Module1", "Wicked! "),
+    QT_TRANSLATE_NOOP("Module1", "Wonderful! "),
+    QT_TRANSLATE_NOOP("Module1", "Super! "),
+    QT_TRANSLATE_NOOP("Module1", "Excellent! "),
 };
 
 void setupform(ActivityForm& form);

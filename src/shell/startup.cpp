@@ -1,5 +1,6 @@
 #include "startup.h"
 
+#include "language.h"
 #include "runtime/forms.h"
 #include "runtime/options.h"
 #include "runtime/pictures.h"
@@ -53,13 +54,17 @@ int runProgram(int argc, char* argv[])
         // --help and --version need no display.
         QCoreApplication app(argc, argv);
         nameTheProgram();
+        Language::install();
         parseCommandLine(app);
-        std::fputs("Partitude needs a display and found none; without one, run it under Xvfb: "
-                   "xvfb-run -a partitude\n", stderr);
+        std::fputs(qPrintable(QCoreApplication::translate("Startup", "Partitude needs a display and found none; "
+                                                                     "without one, run it under Xvfb: %1\n")
+                                  .arg(QStringLiteral("xvfb-run -a partitude"))),
+                   stderr);
         return 1;
     }
     QApplication app(argc, argv);
     nameTheProgram();
+    Language::install(); // before the command line, so --help is translated too
     QApplication::setQuitOnLastWindowClosed(false); // the screens end the program
     startProgram(parseCommandLine(app));
     return QApplication::exec();

@@ -29,9 +29,9 @@ QLabel* panelLabel(QWidget* parent, const char* name, const QString& text, const
     return label;
 }
 
-QPushButton* button(QWidget* parent, const char* name, const char* caption)
+QPushButton* button(QWidget* parent, const char* name, const QString& caption)
 {
-    auto* b = new QPushButton(QString::fromLatin1(caption), parent);
+    auto* b = new QPushButton(caption, parent);
     b->setObjectName(QString::fromLatin1(name));
     b->setFont(Twips::font(QStringLiteral("Liberation Sans"), 12, true));
     return b;
@@ -51,9 +51,9 @@ Titlefrm::Titlefrm()
     , Frame1(new QFrame(this))
     , Timer1(addTimer(QStringLiteral("Timer1"), kAnimationIntervalMs))
     , Picture1(new PictureBox(this, QStringLiteral("Picture1")))
-    , Command2(button(this, "Command2", "Exit"))
-    , Command1(button(this, "Command1", "OK"))
-    , Label3(panelLabel(Frame1, "Label3", QStringLiteral("Made by the Partitude team"),
+    , Command2(button(this, "Command2", tr("Exit")))
+    , Command1(button(this, "Command1", tr("OK")))
+    , Label3(panelLabel(Frame1, "Label3", tr("Made by the Partitude team"),
                         Twips::font(QStringLiteral("Times New Roman"), 12, false)))
     , Label2(panelLabel(Frame1, "Label2", Publisher::kName,
                         Twips::font(QStringLiteral("Times New Roman"), 11, false)))
@@ -79,8 +79,8 @@ Titlefrm::Titlefrm()
     Twips::place(Command2, 6960, 5280, 1860, 660);
     Command1->setDefault(true);
     // Their words say little about where they lead; a screen reader adds it.
-    Command1->setAccessibleDescription(QStringLiteral("Go on to choose your year"));
-    Command2->setAccessibleDescription(QStringLiteral("Close Partitude"));
+    Command1->setAccessibleDescription(tr("Go on to choose your year"));
+    Command2->setAccessibleDescription(tr("Close Partitude"));
 
     connect(Timer1, &QTimer::timeout, this, &Titlefrm::Timer1_Timer);
     connect(Command1, &QPushButton::clicked, this, &Titlefrm::Command1_Click);
@@ -107,7 +107,7 @@ void Titlefrm::Form_Load()
         Module1::version = QStringLiteral("-1"); // as on a first run: OK leads to the settings screen
 
     // Until an edition is chosen the child cannot leave from here, only go on.
-    if (!editionChosen() && Command1->text() == QLatin1String("OK"))
+    if (!editionChosen() && Command1->text() == tr("OK"))
         Command2->setEnabled(false);
 
     // The sphere turns from the start.

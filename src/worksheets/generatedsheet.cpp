@@ -6,6 +6,7 @@
 #include "worksheets/printforms.h"
 #include "worksheets/sheetlayout.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 
 namespace Worksheets {
@@ -153,7 +154,8 @@ bool printGenerated(const Sheet& sheet, const QString& yearLabel)
 
 bool askAndPrintGenerated(const std::function<Sheet()>& make)
 {
-    if (MsgBox::show(QStringLiteral("Do you really want to print?"), MsgBox::Buttons::YesNo, Module1::yearlabel)
+    if (MsgBox::show(QCoreApplication::translate("Worksheets", "Do you really want to print?"), MsgBox::Buttons::YesNo,
+                     Module1::yearlabel)
         != MsgBox::Answer::Yes)
         return false;
     return printGenerated(make(), Module1::yearlabel);

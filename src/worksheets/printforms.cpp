@@ -7,6 +7,7 @@
 #include "runtime/twips.h"
 #include "shell/module1.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPushButton>
 
@@ -22,16 +23,17 @@ bool printOrTell(const std::function<void()>& print)
         print();
         return true;
     } catch (const PrintCancelled&) {
-        MsgBox::show(QStringLiteral("Printing has been cancelled."));
+        MsgBox::show(QCoreApplication::translate("Worksheets", "Printing has been cancelled."));
     } catch (const PrinterError&) {
-        MsgBox::show(QStringLiteral("There was a problem printing to your printer."));
+        MsgBox::show(QCoreApplication::translate("Worksheets", "There was a problem printing to your printer."));
     }
     return false;
 }
 
 bool askAndPrint(const QString& printForm)
 {
-    if (MsgBox::show(QStringLiteral("Do you really want to print?"), MsgBox::Buttons::YesNo, Module1::yearlabel)
+    if (MsgBox::show(QCoreApplication::translate("Worksheets", "Do you really want to print?"), MsgBox::Buttons::YesNo,
+                     Module1::yearlabel)
         != MsgBox::Answer::Yes)
         return false;
     auto* form = qobject_cast<WorksheetForm*>(Forms::load(printForm));
@@ -51,7 +53,7 @@ constexpr int kInside = kWidth - Form::kBorderWidthTwips;
 WorksheetForm::WorksheetForm(const Worksheets::DesignedSheet& sheet)
     : Form(QString::fromLatin1(sheet.form))
     , Picture1(new MetafileBox(this, QStringLiteral("Picture1")))
-    , Command1(new QPushButton(QStringLiteral("Print a worksheet"), this))
+    , Command1(new QPushButton(tr("Print a worksheet"), this))
     , m_sheet(sheet)
 {
     setWindowTitle(QStringLiteral("Form1"));

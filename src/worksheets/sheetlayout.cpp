@@ -1,5 +1,6 @@
 #include "sheetlayout.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 
 #include <algorithm>
@@ -70,7 +71,6 @@ constexpr std::array<Try, 10> kTries = {{{280, 1}, {260, 1}, {260, 0.9}, {260, 0
 constexpr std::array<double, 3> kAnswerSizes = {320, 280, 240};
 constexpr double kAnswerCardHeight = 1100; // answer cards grow no taller
 
-const QString kFooter = QStringLiteral("Partitude - fractions for ages 6 to 11");
 
 constexpr int kWrapped = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
 
@@ -119,8 +119,8 @@ Heading heading(const QString& yearLabel, const QString& title, const QString& b
         const double top = baseline - QFontMetricsF(f).ascent();
         const double lineY = baseline + kLineDrop;
         const double dateX = width - kDateFromRight;
-        h.name = oneLine(QStringLiteral("Name"), f, tabRight, top);
-        h.date = oneLine(QStringLiteral("Date"), f, dateX, top);
+        h.name = oneLine(QCoreApplication::translate("Worksheets", "Name"), f, tabRight, top);
+        h.date = oneLine(QCoreApplication::translate("Worksheets", "Date"), f, dateX, top);
         h.nameLine = QRectF(QPointF(h.name.box.right() + kLineGap, lineY), QPointF(dateX - kNameLineEnd, lineY));
         h.dateLine = QRectF(QPointF(h.date.box.right() + kLineGap, lineY), QPointF(right - kLineGap, lineY));
     }
@@ -143,8 +143,9 @@ Heading heading(const QString& yearLabel, const QString& title, const QString& b
     h.instruction.box.moveTop(bandTop + (bandHeight - h.instruction.box.height()) / 2);
 
     const QFont footerFont = font(Face::Sans, kFooterSize);
-    const double footerWidth = QFontMetricsF(footerFont).horizontalAdvance(kFooter);
-    h.footer = oneLine(kFooter, footerFont, (width - footerWidth) / 2,
+    const QString footer = QCoreApplication::translate("Worksheets", "Partitude - fractions for ages 6 to 11");
+    const double footerWidth = QFontMetricsF(footerFont).horizontalAdvance(footer);
+    h.footer = oneLine(footer, footerFont, (width - footerWidth) / 2,
                        size.height() - kFooterBaseline - QFontMetricsF(footerFont).ascent());
     h.contentTop = h.band.bottom() + kContentGap;
     h.contentBottom = size.height() - kContentBottomRoom;
@@ -347,7 +348,7 @@ AnswersPage answersPage(const Sheet& sheet, const QString& yearLabel, const QSiz
 {
     AnswersPage page;
     page.columns = columns;
-    page.heading = heading(yearLabel, sheet.title, QStringLiteral("Answers"), false, size);
+    page.heading = heading(yearLabel, sheet.title, QCoreApplication::translate("Worksheets", "Answers"), false, size);
     const double cardWidth = columns == 2 ? (size.width() - 2 * kSide - kCardGap) / 2 : size.width() - 2 * kSide;
     const double gap = columns == 2 ? kCardGap : kOneColumnGap;
     const double room = page.heading.contentBottom - page.heading.contentTop;

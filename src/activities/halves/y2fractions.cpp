@@ -9,6 +9,7 @@
 #include "runtime/twips.h"
 #include "shell/module1.h"
 
+#include <QCoreApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
@@ -42,12 +43,13 @@ Y2fractions::Y2fractions()
     : ActivityForm(QStringLiteral("Y2fractions"))
     , Label1(wordLabel(this, QStringLiteral("Label1"), QString(), 14, kInstructionInk))
     , Label2(wordLabel(this, QStringLiteral("Label2"), QStringLiteral("dhshsdhsdhdfgh"), 14, kMessageInk))
-    , Label8(wordLabel(this, QStringLiteral("Label8"), QStringLiteral("Click Start to have another go... or click Exit"), 16,
-                   kInstructionInk))
-    , Label3(wordLabel(Picture1, QStringLiteral("Label3"), QStringLiteral("Good Luck."), 18, kMessageInk))
-    , Label4(wordLabel(Picture1, QStringLiteral("Label4"), QStringLiteral("Halves and Quarters 1"), 26, kInstructionInk))
-    , Label6(wordLabel(Picture1, QStringLiteral("Label6"), QStringLiteral("Aim to get 10 or 20 questions correct to gain a certificate."),
-                   14, kInstructionInk))
+    , Label8(wordLabel(this, QStringLiteral("Label8"), tr("Click Start to have another go... or click Exit"), 16,
+                       kInstructionInk))
+    , Label3(wordLabel(Picture1, QStringLiteral("Label3"), tr("Good Luck."), 18, kMessageInk))
+    , Label4(wordLabel(Picture1, QStringLiteral("Label4"),
+                       QCoreApplication::translate("Activities", "Halves and Quarters 1"), 26, kInstructionInk))
+    , Label6(wordLabel(Picture1, QStringLiteral("Label6"),
+                       tr("Aim to get 10 or 20 questions correct to gain a certificate."), 14, kInstructionInk))
     , Frame1(new QFrame(this))
     , Frame2(new QFrame(this))
     , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
@@ -84,7 +86,7 @@ Y2fractions::Y2fractions()
     }
 
     run().setLabels(Label1, Label2, Label8);
-    run().setCertificateWords(QStringLiteral("Halves and Quarters 2"));
+    run().setCertificateWords(QCoreApplication::translate("Activities", "Halves and Quarters 2"));
 
     connect(cmdcheck, &QPushButton::clicked, this, &Y2fractions::cmdcheck_Click);
     connect(cmdhint, &QPushButton::clicked, this, &Y2fractions::cmdhint_Click);
@@ -122,7 +124,7 @@ void Y2fractions::Form_Load()
     loadAsABoardActivity();
 
     Module1::counter = 0;
-    Module1::activitytitle = QStringLiteral("Halves and Quarters 1");
+    Module1::activitytitle = QCoreApplication::translate("Activities", "Halves and Quarters 1");
     Module1::questions = 10; // this activity's run is 10 unless the child chooses 20
     showQuestionsChoice();
     ++Module1::visits;
@@ -205,7 +207,7 @@ void Y2fractions::cmdcheck_Click()
     if (count == question.target)
         run().right(question.rightAnswer(), Timer3);
     else if (count == 0)
-        run().keep(QStringLiteral("You must choose some pictures!"), Timer1); // the child's marks are kept
+        run().keep(tr("You must choose some pictures!"), Timer1); // the child's marks are kept
     else
         run().wrong(Halves::shouldHaveClicked(question.target), Timer3);
 }
@@ -226,14 +228,14 @@ void Y2fractions::cmdhint_Click()
     switchoff();
     const int count = selectedCount();
     if (count < question.target) {
-        run().showMessage(QStringLiteral("You have not chosen enough!"));
+        run().showMessage(tr("You have not chosen enough!"));
         Timer1->setEnabled(true);
     } else if (count == question.target) {
-        run().showMessage(QStringLiteral("You don't need a hint, you have the right answer!"));
+        run().showMessage(tr("You don't need a hint, you have the right answer!"));
         cmdcheck->setEnabled(true);
         cmdcheck->setFocus();
     } else {
-        run().showMessage(QStringLiteral("You have chosen too many!"));
+        run().showMessage(tr("You have chosen too many!"));
         Timer1->setEnabled(true);
     }
 }

@@ -42,7 +42,7 @@ PicturesBoard::PicturesBoard(QWidget* parent)
 
 QString PicturesBoard::picname() const
 {
-    return QString::fromLatin1(Halves::kPictureSets[m_question.set - 1].name);
+    return Halves::setName(m_question.set);
 }
 
 void PicturesBoard::pose(Random::Source& rnd)
@@ -83,7 +83,7 @@ void PicturesBoard::focusAnswer()
 Worksheets::Sheet PicturesBoard::worksheet(Random::Source& rnd)
 {
     return Worksheets::drawSheet<HalvesOfNumbers::Question>(
-        QCoreApplication::translate("PicturesBoard", "Halves and Quarters 3"),
+        QCoreApplication::translate("Activities", "Halves and Quarters 3"),
         QCoreApplication::translate("PicturesBoard", "Share the pictures into equal groups to find the answer."),
         [&rnd](const HalvesOfNumbers::Question* last) { return HalvesOfNumbers::draw(rnd, last); },
         [](const HalvesOfNumbers::Question& q) {

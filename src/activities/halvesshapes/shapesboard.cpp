@@ -55,7 +55,7 @@ void ShapesBoard::focusAnswer()
 Worksheets::Sheet ShapesBoard::worksheet(Random::Source& rnd)
 {
     return Worksheets::drawSheet<HalvesShapes::Question>(
-        QCoreApplication::translate("ShapesBoard", "Halves and Quarters 2"),
+        QCoreApplication::translate("Activities", "Halves and Quarters 2"),
         QCoreApplication::translate("ShapesBoard", "Colour the part of each shape that the question asks for."),
         [&rnd](const HalvesShapes::Question* last) { return HalvesShapes::draw(rnd, last); },
         [](const HalvesShapes::Question& q) {

@@ -9,6 +9,7 @@
 #include "runtime/random.h"
 #include "shell/module1.h"
 
+#include <QCoreApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
@@ -47,7 +48,7 @@ y5fract4::y5fract4()
     buildBoard();
     run().setLabels(Label1, Label2, Label80);
     // The certificate's title as this screen passes it; the certificate does not use it.
-    run().setCertificateWords(QStringLiteral("Equivalent Fractions 3"));
+    run().setCertificateWords(QCoreApplication::translate("Activities", "Equivalent Fractions 3"));
     // A number is written with a blank before it where a minus would stand.
     run().setStreakWithBlank(true);
 
@@ -107,9 +108,9 @@ void y5fract4::newquestion()
     m_question = MixedQuestion::draw(Random::program());
     m_answertext = m_question.answerText();
     if (m_question.direction == MixedQuestion::kToMixed) {
-        Label1->setText(QStringLiteral("Change to a mixed number..."));
+        Label1->setText(tr("Change to a mixed number..."));
         Timer6->setEnabled(true);
-        Label5->setText(QStringLiteral("Type in the correct mixed number and use the ENTER key to move on"));
+        Label5->setText(tr("Type in the correct mixed number and use the ENTER key to move on"));
         Text2->setEnabled(false);
         Text4->setEnabled(false);
         Text1->setEnabled(true);
@@ -123,9 +124,9 @@ void y5fract4::newquestion()
         Label9->setText(QString::number(m_question.denom));
         Text1->setFocus();
     } else {
-        Label1->setText(QStringLiteral("Change to an improper fraction..."));
+        Label1->setText(tr("Change to an improper fraction..."));
         Timer7->setEnabled(true);
-        Label5->setText(QStringLiteral("Type in the correct fraction and use the ENTER key to move on"));
+        Label5->setText(tr("Type in the correct fraction and use the ENTER key to move on"));
         Text5->setEnabled(false);
         Text3->setEnabled(true);
         for (QLineEdit* box : {Text3, Text5}) {
@@ -214,7 +215,7 @@ void y5fract4::cmdcheck_Click()
     if (m_question.isAnswer(typed))
         run().right(QStringLiteral(" ") + m_answertext, Timer1);
     else
-        run().wrong(QStringLiteral("Incorrect! ") + m_answertext, Timer3);
+        run().wrong(tr("Incorrect! %1").arg(m_answertext), Timer3);
 }
 
 QRect y5fract4::boardArea() const

@@ -10,6 +10,7 @@
 #include "runtime/twips.h"
 #include "shell/module1.h"
 
+#include <QCoreApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
@@ -145,7 +146,7 @@ QString boxStyle()
 
 void y5fract4::buildBoard()
 {
-    setWindowTitle(QStringLiteral("Year 5"));
+    setWindowTitle(QCoreApplication::translate("Year", "Year 5"));
     const QFont words = Twips::font(kSerif, 13, true);
     const QFont numbers = Twips::font(kSerif, kNumberPoints, true);
 
@@ -154,11 +155,11 @@ void y5fract4::buildBoard()
     Twips::place(Picture1, kOpeningLeft, kOpeningTop, kOpeningWidth, kOpeningHeight);
     const int openingInside = kOpeningWidth - 480;
     Label4 = label(Picture1, "Label4",
-                   QStringLiteral("Mixed Numbers To Improper Fractions or Improper Fractions To Mixed Numbers"),
+                   QCoreApplication::translate(
+                       "Activities", "Mixed Numbers To Improper Fractions or Improper Fractions To Mixed Numbers"),
                    Twips::font(kSerif, 18, true), kPanelInk, Qt::AlignCenter);
     Twips::place(Label4, 240, 180, openingInside, 1200);
-    Label6 = label(Picture1, "Label6",
-                   QStringLiteral("Aim to get 10 or 20 questions correct to gain a certifcate."),
+    Label6 = label(Picture1, "Label6", tr("Aim to get 10 or 20 questions correct to gain a certifcate."),
                    Twips::font(kSerif, 13, false), kPanelInk, Qt::AlignCenter);
     Twips::place(Label6, 240, 1440, openingInside, 720);
     Frame1 = panel(this, "Frame1", kColumnLeft, kOptionsTop, kColumnWidth, kOptionsHeight, kPanelPaper);
@@ -170,8 +171,7 @@ void y5fract4::buildBoard()
     }
     Twips::place(Option1, 120, 90, 1620, 360);
     Twips::place(Option2, 1800, 90, 1620, 360);
-    Label3 = label(Picture1, "Label3", QStringLiteral("Good Luck."), Twips::font(kSerif, 16, true), kPanelInk,
-                   Qt::AlignCenter);
+    Label3 = label(Picture1, "Label3", tr("Good Luck."), Twips::font(kSerif, 16, true), kPanelInk, Qt::AlignCenter);
     Twips::place(Label3, 240, 2340, openingInside, 540);
     for (QLabel* l : {Label4, Label6, Label3})
         setInk(l, kPanelInk, kPanelPaper);
@@ -221,35 +221,34 @@ void y5fract4::buildBoard()
 
     // Each answer box lies over the label that replaces it.
     // Each is named for the number it holds, as a screen reader says it.
-    auto box = [&](QWidget* parent, const char* name, const char* spoken, QLabel* under,
+    auto box = [&](QWidget* parent, const char* name, const QString& spoken, QLabel* under,
                    void (y5fract4::*handler)(int&)) {
-        QLineEdit* b = AnswerBox::make(parent, QString::fromLatin1(name), QString::fromLatin1(spoken), numbers,
-                                       kBoxOptions, [this, handler](int& keyAscii) { (this->*handler)(keyAscii); });
+        QLineEdit* b = AnswerBox::make(parent, QString::fromLatin1(name), spoken, numbers, kBoxOptions,
+                                       [this, handler](int& keyAscii) { (this->*handler)(keyAscii); });
         b->setStyleSheet(boxStyle());
         b->setGeometry(under->geometry());
         b->raise();
         return b;
     };
-    Text1 = box(Picture2, "Text1", "whole number", Label12, &y5fract4::Text1_KeyPress);
-    Text4 = box(Picture2, "Text4", "top number", Label8, &y5fract4::Text4_KeyPress);
-    Text2 = box(Picture2, "Text2", "bottom number", Label10, &y5fract4::Text2_KeyPress);
-    Text3 = box(Picture3, "Text3", "top number", Label17, &y5fract4::Text3_KeyPress);
-    Text5 = box(Picture3, "Text5", "bottom number", Label14, &y5fract4::Text5_KeyPress);
+    Text1 = box(Picture2, "Text1", tr("whole number"), Label12, &y5fract4::Text1_KeyPress);
+    Text4 = box(Picture2, "Text4", tr("top number"), Label8, &y5fract4::Text4_KeyPress);
+    Text2 = box(Picture2, "Text2", tr("bottom number"), Label10, &y5fract4::Text2_KeyPress);
+    Text3 = box(Picture3, "Text3", tr("top number"), Label17, &y5fract4::Text3_KeyPress);
+    Text5 = box(Picture3, "Text5", tr("bottom number"), Label14, &y5fract4::Text5_KeyPress);
 
     // The band along the bottom: typing instruction or hint, and the product.
     Frame2 = panel(this, "Frame2", kColumnLeft, kBandTop, kBandWidth, kBandHeight, kActivityBack);
     Label5 = label(Frame2, "Label5", QString(), words, kWhite);
     Twips::place(Label5, 120, 0, kHintWidth, kBandHeight);
     Label5->hide();
-    Label18 = label(Frame2, "Label18",
-                    QStringLiteral("Type in your mixed number and use the ENTER key to move on"), words, kWhite);
+    Label18 = label(Frame2, "Label18", tr("Type in your mixed number and use the ENTER key to move on"), words, kWhite);
     Twips::place(Label18, 120, 0, kHintWidth, kBandHeight);
     Label20 = label(Frame2, "Label20", QString(), Twips::font(kSerif, 16, true), kFeedbackInk, Qt::AlignCenter);
     Twips::place(Label20, kProductLeft, 0, kProductWidth, kBandHeight);
     Label20->hide();
 
     // The end of a run; the ready message moves it over the picture.
-    Label80 = label(this, "Label80", QStringLiteral("Click Start to have another go... or click Exit"),
+    Label80 = label(this, "Label80", tr("Click Start to have another go... or click Exit"),
                     Twips::font(kSerif, 16, true), kPanelInk, Qt::AlignCenter);
     // A card in the panels' colours, over the finished picture.
     Label80->setStyleSheet(QStringLiteral("QLabel { background: %1; color: %2; border: 3px solid %3;"

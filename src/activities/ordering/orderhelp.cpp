@@ -10,7 +10,6 @@
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
-#include <algorithm>
 
 // The last example is 4.211 while the explanation calls the biggest 4.41:
 // both are the screen's words and stay as they are.
@@ -19,16 +18,37 @@ const QStringList orderhelp::kExamples = {QStringLiteral("3.4 7 2"), QStringLite
                                           QStringLiteral("4.2 1 1")};
 
 const std::vector<orderhelp::Line> orderhelp::kExplanation = {
-    {"Reading from the left :", {}},
-    {"3.472 is less than 3.482", {3, 22}},
-    {"since the 7 is less than the 8", {10, 29}},
-    {"3.482 is less than 3.49", {3, 22}},
-    {"since the 8 is less than the 9", {10, 29}},
-    {"3.49 is less than 3.516", {2, 20}},
-    {"since the 4 is less than the 5", {10, 29}},
-    {"4.41 is the biggest", {0}},
-    {"since 4 units is bigger than 3 units", {6, 29}},
+    {QT_TRANSLATE_NOOP("orderhelp", "Reading from the left :"), {}},
+    {QT_TRANSLATE_NOOP("orderhelp", "%1 is less than %2"), {{"3.472", 3}, {"3.482", 3}}},
+    {QT_TRANSLATE_NOOP("orderhelp", "since the %1 is less than the %2"), {{"7", -1}, {"8", -1}}},
+    {QT_TRANSLATE_NOOP("orderhelp", "%1 is less than %2"), {{"3.482", 3}, {"3.49", 3}}},
+    {QT_TRANSLATE_NOOP("orderhelp", "since the %1 is less than the %2"), {{"8", -1}, {"9", -1}}},
+    {QT_TRANSLATE_NOOP("orderhelp", "%1 is less than %2"), {{"3.49", 2}, {"3.516", 2}}},
+    {QT_TRANSLATE_NOOP("orderhelp", "since the %1 is less than the %2"), {{"4", -1}, {"5", -1}}},
+    {QT_TRANSLATE_NOOP("orderhelp", "%1 is the biggest"), {{"4.41", 0}}},
+    {QT_TRANSLATE_NOOP("orderhelp", "since %1 units is bigger than %2 units"), {{"4", -1}, {"3", -1}}},
 };
+
+QString orderhelp::lineHtml(const Line& line, const QString& markColour)
+{
+    // The sentence is translated whole; its numbers go in afterwards, so the
+    // compared digits stand out wherever a language puts them.
+    QString html = tr(line.text).toHtmlEscaped();
+    for (const Number& number : line.numbers) {
+        const QString digits = QString::fromLatin1(number.digits);
+        QString marked;
+        for (int i = 0; i < digits.size(); ++i) {
+            const QString c = digits.mid(i, 1).toHtmlEscaped();
+            if (number.compared < 0 || number.compared == i)
+                marked += QStringLiteral("<span style=\"color:%1; font-weight:bold; font-size:large;\">%2</span>")
+                              .arg(markColour, c);
+            else
+                marked += c;
+        }
+        html = html.arg(marked);
+    }
+    return html;
+}
 
 namespace {
 const QString kWords = QStringLiteral("Times New Roman");
@@ -51,18 +71,9 @@ QString explanationHtml()
 {
     QString html;
     for (std::size_t n = 0; n < orderhelp::kExplanation.size(); ++n) {
-        const orderhelp::Line& line = orderhelp::kExplanation[n];
-        const QString text = QString::fromLatin1(line.text);
         const bool opensPair = n > 0 && n % 2 == 1;
         html += QStringLiteral("<p style=\"margin-top:%1px; margin-bottom:0px;\">").arg(opensPair ? 10 : 0);
-        for (int i = 0; i < text.size(); ++i) {
-            const QString c = text.mid(i, 1).toHtmlEscaped();
-            if (std::find(line.compared.begin(), line.compared.end(), i) != line.compared.end())
-                html += QStringLiteral("<span style=\"color:%1; font-weight:bold; font-size:large;\">%2</span>")
-                            .arg(kMarked.name(), c);
-            else
-                html += c;
-        }
+        html += orderhelp::lineHtml(orderhelp::kExplanation[n], kMarked.name());
         html += QStringLiteral("</p>");
     }
     return html;
@@ -72,17 +83,17 @@ QString explanationHtml()
 orderhelp::orderhelp()
     : Form(QStringLiteral("orderhelp"))
     , Frame1(new QFrame(this))
-    , Label1(wordLabel(Frame1, QStringLiteral("Label1"), QStringLiteral("Happy to help"), 22, Module1::kPanelInk))
+    , Label1(wordLabel(Frame1, QStringLiteral("Label1"), tr("Happy to help"), 22, Module1::kPanelInk))
     , Label2(wordLabel(this, QStringLiteral("Label2"),
-                       QStringLiteral("The following decimals are in order of size starting with the smallest:"), 14,
+                       tr("The following decimals are in order of size starting with the smallest:"), 14,
                        Qt::white))
     , Image1(new PlaceValueHeads(this, QStringLiteral("Image1")))
     , Image2(wordLabel(this, QStringLiteral("Image2"), explanationHtml(), 12, Qt::white))
     , Image3(new ArrowLabel(this, QStringLiteral("Image3"), ArrowLabel::Direction::Down, kMarked))
     , Frame2(new QFrame(this))
-    , cmdexit(new QPushButton(QStringLiteral("Exit"), Frame2))
+    , cmdexit(new QPushButton(tr("Exit"), Frame2))
 {
-    setWindowTitle(QStringLiteral("Year 6 "));
+    setWindowTitle(tr("Year 6 "));
     setDesignSize(kInsideWidth + kBorderWidthTwips, kInsideHeight + kBorderHeightTwips);
     // The activity waits behind until the child leaves.
     setWindowModality(Qt::ApplicationModal);
@@ -117,7 +128,7 @@ orderhelp::orderhelp()
     cmdexit->setObjectName(QStringLiteral("cmdexit"));
     cmdexit->setFont(Twips::font(QStringLiteral("Arial"), 11, true));
     cmdexit->setIconSize(QSize(28, 28));
-    cmdexit->setToolTip(QStringLiteral("Goodbye"));
+    cmdexit->setToolTip(tr("Goodbye"));
     Twips::place(cmdexit, kInsideWidth - 1455 - 240, 75, 1455, kBarHeight - 150);
 
     connect(cmdexit, &QPushButton::clicked, this, &orderhelp::cmdexit_Click);

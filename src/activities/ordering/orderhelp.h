@@ -28,12 +28,20 @@ public:
     QFrame* Frame2;
     QPushButton* cmdexit;
 
-    // One line of the explanation and the characters in it that are
-    // compared, which stand out from the rest.
+    // A number in the explanation and the place of its digit that is
+    // compared, which stands out from the rest (-1: the whole number does).
+    struct Number {
+        const char* digits;
+        int compared;
+    };
+    // One line of the explanation: its sentence (translated where shown),
+    // with %1 and %2 standing for its numbers.
     struct Line {
         const char* text;
-        std::vector<int> compared;
+        std::vector<Number> numbers;
     };
+    // The line as rich text, the compared digits set off.
+    static QString lineHtml(const Line& line, const QString& markColour);
     static const std::vector<Line> kExplanation;
     static const QStringList kExamples;
 

@@ -23,8 +23,9 @@ QStringList columnDigits(const QString& spaced)
 
 } // namespace PlaceValue
 
-const QStringList PlaceValueHeads::kHeads = {QStringLiteral("units"), QStringLiteral("1/10"), QStringLiteral("1/100"),
-                                             QStringLiteral("1/1000")};
+// The first head is a word, translated where it is drawn.
+const QStringList PlaceValueHeads::kHeads = {QStringLiteral(QT_TRANSLATE_NOOP("PlaceValueHeads", "units")),
+                                             QStringLiteral("1/10"), QStringLiteral("1/100"), QStringLiteral("1/1000")};
 
 PlaceValueHeads::PlaceValueHeads(QWidget* parent, const QString& name)
     : QWidget(parent)
@@ -46,7 +47,7 @@ void PlaceValueHeads::paintEvent(QPaintEvent*)
         painter.setFont(font());
         const QStringList parts = kHeads[c].split(QLatin1Char('/'));
         if (parts.size() == 1) {
-            painter.drawText(box, Qt::AlignCenter, kHeads[c]);
+            painter.drawText(box, Qt::AlignCenter, tr(qPrintable(kHeads[c])));
             continue;
         }
         const QFontMetricsF metrics(font());

@@ -11,6 +11,7 @@
 #include "runtime/twips.h"
 #include "shell/module1.h"
 
+#include <QCoreApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,10 +20,20 @@
 
 using namespace Module1;
 
-const QString Y6fract3::kStartInstruction =
-    QStringLiteral("Click the numbers, in order, starting with the smallest....");
-const QString Y6fract3::kRightOrder = QStringLiteral(" The numbers are in the correct order");
-const QString Y6fract3::kWrongOrder = QStringLiteral("Unlucky! The correct order is:");
+QString Y6fract3::startInstruction()
+{
+    return tr("Click the numbers, in order, starting with the smallest....");
+}
+
+QString Y6fract3::rightOrder()
+{
+    return tr(" The numbers are in the correct order");
+}
+
+QString Y6fract3::wrongOrder()
+{
+    return tr("Unlucky! The correct order is:");
+}
 
 namespace {
 constexpr int kFewerThanVisits = 4;
@@ -38,15 +49,15 @@ constexpr int kBackspace = 8;
 Y6fract3::Y6fract3()
     : ActivityForm(QStringLiteral("Y6fract3"))
     , Label1(wordLabel(this, QStringLiteral("Label1"), QString(), 13, Qt::white))
-    , Label2(wordLabel(this, QStringLiteral("Label2"), QStringLiteral("Incorrect!"), 14, Y6fract3::kHighlight))
+    , Label2(wordLabel(this, QStringLiteral("Label2"), tr("Incorrect!"), 14, Y6fract3::kHighlight))
     , Label3(nullptr)
-    , Label4(wordLabel(this, QStringLiteral("Label4"), QStringLiteral("Place In Order"), 22, Qt::white))
+    , Label4(wordLabel(this, QStringLiteral("Label4"), tr("Place In Order"), 22, Qt::white))
     , Label6(nullptr)
-    , Label8(wordLabel(this, QStringLiteral("Label8"), QStringLiteral("Click Start to have another go... or click Exit"),
+    , Label8(wordLabel(this, QStringLiteral("Label8"), tr("Click Start to have another go... or click Exit"),
                        16, Qt::white))
-    , Label9(wordLabel(this, QStringLiteral("Label9"), QStringLiteral("Click each number starting with the smallest."),
+    , Label9(wordLabel(this, QStringLiteral("Label9"), tr("Click each number starting with the smallest."),
                        14, Y6fract3::kHighlight))
-    , cmdundo(new QPushButton(QStringLiteral("Undo"), this))
+    , cmdundo(new QPushButton(tr("Undo"), this))
     , Frame1(new QFrame(this))
     , Frame2(nullptr)
     , Shape1(nullptr)
@@ -58,7 +69,7 @@ Y6fract3::Y6fract3()
     , Timer6(addTimer(QStringLiteral("Timer6"), kTimer6Ms))
     , Timer7(addTimer(QStringLiteral("Timer7"), kTimer7Ms))
 {
-    setWindowTitle(QStringLiteral("Year 6 "));
+    setWindowTitle(QCoreApplication::translate("orderhelp", "Year 6 "));
     Image2->setObjectName(QStringLiteral("Image2(0)"));
     buildBoard();
     buildOpeningPanel();
@@ -69,7 +80,7 @@ Y6fract3::Y6fract3()
 
     run().setLabels(Label1, Label2, Label8);
     // The words handed to the certificate routine, which does not use them.
-    run().setCertificateWords(QStringLiteral("How Many?"));
+    run().setCertificateWords(QCoreApplication::translate("Activities", "How Many?"));
 
     connect(cmdstart, &QPushButton::clicked, this, &Y6fract3::cmdstart_Click);
     connect(cmdcheck, &QPushButton::clicked, this, &Y6fract3::cmdcheck_Click);
@@ -215,7 +226,7 @@ void Y6fract3::cmdstart_Click()
     resetform();
     for (NumberLabel* number : Label10)
         number->setEnabled(true);
-    Label1->setText(kStartInstruction);
+    Label1->setText(startInstruction());
     cmdcheck->setEnabled(false);
     cmdprint->setEnabled(true);
     cmdexit->setEnabled(true);
@@ -240,11 +251,11 @@ void Y6fract3::cmdcheck_Click()
     Label9->hide();
     cmdhint->setEnabled(false);
     if (NumberSet::inOrder(answers())) {
-        run().right(kRightOrder, Timer3);
+        run().right(rightOrder(), Timer3);
         return;
     }
     // In the Challenge the retry screen waits while the right order is shown.
-    run().wrong(kWrongOrder, nullptr, Timer5);
+    run().wrong(wrongOrder(), nullptr, Timer5);
     showorder();
 }
 

@@ -79,9 +79,9 @@ public:
     // filled entry and checks; only digits, ".", "-" and backspace pass.
     void keyfilter(int& KeyAscii);
 
-    static const QString kStartInstruction;
-    static const QString kRightOrder;
-    static const QString kWrongOrder;
+    static QString startInstruction();
+    static QString rightOrder();
+    static QString wrongOrder();
     // The arrows, the pointers' words and the feedback line.
     static const QColor kHighlight;
 

@@ -124,9 +124,9 @@ void Y6fract3::buildBoard()
         Label11.append(slot);
     }
 
-    Label12[5] = wordLabel(Frame1, QStringLiteral("Label12(5)"), QStringLiteral("Smallest"), 14, Y6fract3::kHighlight);
+    Label12[5] = wordLabel(Frame1, QStringLiteral("Label12(5)"), tr("Smallest"), 14, Y6fract3::kHighlight);
     Twips::place(Label12[5], 5595, 840, kPointerWidth, kPointerHeight);
-    Label12[0] = wordLabel(Frame1, QStringLiteral("Label12(0)"), QStringLiteral("Biggest"), 14, Y6fract3::kHighlight);
+    Label12[0] = wordLabel(Frame1, QStringLiteral("Label12(0)"), tr("Biggest"), 14, Y6fract3::kHighlight);
     Twips::place(Label12[0], 5580, 4080, kPointerWidth, kPointerHeight);
     Label5 = new ArrowLabel(Frame1, QStringLiteral("Label5"), ArrowLabel::Direction::Right, Y6fract3::kHighlight);
     Twips::place(Label5, kArrowLeft, 840, kArrowWidth, kPointerHeight);
@@ -138,10 +138,10 @@ void Y6fract3::buildOpeningPanel()
 {
     constexpr int kPanelWidth = 6880;
     Twips::place(Picture1, 1300, 1320, kPanelWidth, 3960);
-    Label3 = wordLabel(Picture1, QStringLiteral("Label3"), QStringLiteral("Good Luck."), 26, Qt::white);
+    Label3 = wordLabel(Picture1, QStringLiteral("Label3"), tr("Good Luck."), 26, Qt::white);
     Twips::place(Label3, 0, 240, kPanelWidth, 780);
     Label6 = wordLabel(Picture1, QStringLiteral("Label6"),
-                       QStringLiteral("Aim to get 10 or 20 questions correct to gain a certificate."), 14, Qt::white);
+                       tr("Aim to get 10 or 20 questions correct to gain a certificate."), 14, Qt::white);
     Twips::place(Label6, 480, 1140, kPanelWidth - 960, 1260);
 
     // The run's length stays in sight all run long, under the answer column.

@@ -170,15 +170,18 @@ void BarModel::paintEvent(QPaintEvent*)
 
 void BarModel::describe()
 {
-    QString text = QStringLiteral("a bar of %1 cut into %2").arg(m_amount)
-        .arg(DrawingStyle::counted(m_parts, QStringLiteral("equal box"), QStringLiteral("equal boxes")));
-    if (m_working) {
-        text += QStringLiteral(", %1 in each box").arg(m_perPart);
-        if (m_shaded > 0)
-            text += QStringLiteral(", ")
-                + DrawingStyle::counted(m_shaded, QStringLiteral("box"), QStringLiteral("boxes"))
-                + QStringLiteral(" shaded");
-    }
+    // Each sentence names its English singular and plural; the count also
+    // picks a translation's own plural form.
+    QString text = (m_parts == 1 ? tr("a bar of %1 cut into %n equal box", nullptr, m_parts)
+                                 : tr("a bar of %1 cut into %n equal boxes", nullptr, m_parts))
+                       .arg(m_amount);
+    if (m_working && m_shaded > 0)
+        text = (m_shaded == 1 ? tr("%1, %2 in each box, %n box shaded", nullptr, m_shaded)
+                              : tr("%1, %2 in each box, %n boxes shaded", nullptr, m_shaded))
+                   .arg(text)
+                   .arg(m_perPart);
+    else if (m_working)
+        text = tr("%1, %2 in each box").arg(text).arg(m_perPart);
     setAccessibleName(text);
 }
 

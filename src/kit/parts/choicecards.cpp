@@ -25,7 +25,7 @@ ChoiceCards::ChoiceCards(QWidget* parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("choiceCards"));
-    setAccessibleName(QStringLiteral("answer cards"));
+    setAccessibleName(tr("answer cards"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Twips::toPixels(kCardGap));
@@ -64,7 +64,7 @@ void ChoiceCards::setCards(const QStringList& texts, const QStringList& keys, co
         card->setContent(texts[i], own.isEmpty() ? QString::number(i + 1) : own);
         const QString spoken = spokenTexts.value(i);
         card->setAccessibleName(
-            QStringLiteral("card %1: %2").arg(i + 1).arg(spoken.isEmpty() ? spokenText(texts[i]) : spoken));
+            tr("card %1: %2").arg(i + 1).arg(spoken.isEmpty() ? spokenText(texts[i]) : spoken));
         m_ownKeys[i]->setKey(QKeySequence(own));
         card->show();
     }
@@ -88,7 +88,7 @@ void ChoiceCards::markRight(int index)
 {
     if (ChoiceCard* c = card(index)) {
         c->setMark(ChoiceCard::Mark::Right);
-        c->setAccessibleDescription(QStringLiteral("the right answer"));
+        c->setAccessibleDescription(tr("the right answer"));
     }
 }
 
@@ -96,7 +96,7 @@ void ChoiceCards::markWrong(int index)
 {
     if (ChoiceCard* c = card(index)) {
         c->setMark(ChoiceCard::Mark::Wrong);
-        c->setAccessibleDescription(QStringLiteral("not the right answer"));
+        c->setAccessibleDescription(tr("not the right answer"));
     }
 }
 

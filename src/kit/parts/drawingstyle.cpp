@@ -121,9 +121,4 @@ void paintBoard(QPainter& painter, const QRectF& area)
     painter.restore();
 }
 
-QString counted(int n, const QString& one, const QString& many)
-{
-    return QString::number(n) + QLatin1Char(' ') + (n == 1 ? one : many);
-}
-
 } // namespace DrawingStyle

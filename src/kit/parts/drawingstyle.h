@@ -47,7 +47,4 @@ double outlineWidth(double height);
 // The cream board with its rounded corners, filling `area`.
 void paintBoard(QPainter& painter, const QRectF& area);
 
-// A number with a word after it, the word singular for 1: "1 box", "3 boxes".
-QString counted(int n, const QString& one, const QString& many);
-
 } // namespace DrawingStyle

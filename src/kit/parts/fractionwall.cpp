@@ -26,12 +26,12 @@ constexpr QSize kSmallestSize{140, 60};
 // A row as a screen reader says it: "a row of 8 eighths, 4 shaded".
 QString rowWords(const FractionWall::Row& row)
 {
-    const QString bricks = row.bottom == 1
-        ? QStringLiteral("1 whole")
-        : QStringLiteral("%1 %2").arg(row.bottom).arg(Fractions::partsName(row.bottom));
-    const QString shaded = row.shaded == 0 ? QStringLiteral("none shaded")
-                                           : QStringLiteral("%1 shaded").arg(row.shaded);
-    return QStringLiteral("a row of ") + bricks + QStringLiteral(", ") + shaded;
+    const QString bricks = row.bottom == 1 ? FractionWall::tr("1 whole")
+                                           : FractionWall::tr("%1 %2", "a count of bricks and their name: 8 eighths")
+                                                 .arg(row.bottom)
+                                                 .arg(Fractions::partsName(row.bottom));
+    return row.shaded == 0 ? FractionWall::tr("a row of %1, none shaded").arg(bricks)
+                           : FractionWall::tr("a row of %1, %2 shaded").arg(bricks).arg(row.shaded);
 }
 } // namespace
 
@@ -147,7 +147,7 @@ void FractionWall::describe()
     QStringList parts;
     for (const Row& row : m_rows)
         parts << rowWords(row);
-    setAccessibleName(parts.isEmpty() ? QStringLiteral("an empty fraction wall") : parts.join(QStringLiteral("; ")));
+    setAccessibleName(parts.isEmpty() ? tr("an empty fraction wall") : parts.join(QStringLiteral("; ")));
 }
 
 QSize FractionWall::sizeHint() const

@@ -42,7 +42,7 @@ bool HundredSquare::isShaded(int column, int row) const
 
 QString HundredSquare::description() const
 {
-    return QStringLiteral("a hundred square with %1 small squares shaded").arg(m_shaded);
+    return tr("a hundred square with %1 small squares shaded").arg(m_shaded);
 }
 
 QSize HundredSquare::sizeHint() const

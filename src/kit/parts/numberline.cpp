@@ -248,14 +248,14 @@ void NumberLine::paintEvent(QPaintEvent*)
 void NumberLine::describe()
 {
     if (m_from.isEmpty() || m_to.isEmpty()) {
-        setAccessibleName(QStringLiteral("a number line"));
+        setAccessibleName(tr("a number line"));
         return;
     }
-    QString text = QStringLiteral("a number line from %1 to %2").arg(m_from, m_to);
+    QString text = tr("a number line from %1 to %2").arg(m_from, m_to);
     if (!m_toRound.isEmpty())
-        text += QStringLiteral(", %1 to round").arg(m_toRound);
+        text = tr("%1, %2 to round").arg(text, m_toRound);
     if (!m_mark.isEmpty())
-        text += QStringLiteral(", %1 marked").arg(m_mark);
+        text = tr("%1, %2 marked").arg(text, m_mark);
     setAccessibleName(text);
 }
 

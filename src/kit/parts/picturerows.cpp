@@ -214,16 +214,19 @@ void PictureRows::describe()
     if (m_count == 1 && name.endsWith(QLatin1Char('s')))
         name.chop(1);
     QString text = QString::number(m_count) + QLatin1Char(' ') + name;
+    // Each sentence names its English singular and plural; the count also
+    // picks a translation's own plural form.
     if (m_groups > 0) {
-        text += QStringLiteral(" in ")
-            + DrawingStyle::counted(m_groups, QStringLiteral("group"), QStringLiteral("groups"))
-            + QStringLiteral(" of ") + QString::number(m_count / m_groups);
+        text = (m_groups == 1 ? tr("%1 in %n group of %2", nullptr, m_groups)
+                              : tr("%1 in %n groups of %2", nullptr, m_groups))
+                   .arg(text)
+                   .arg(m_count / m_groups);
         if (m_shaded > 0)
-            text += QStringLiteral(", ")
-                + DrawingStyle::counted(m_shaded, QStringLiteral("group"), QStringLiteral("groups"))
-                + QStringLiteral(" marked");
+            text = (m_shaded == 1 ? tr("%1, %n group marked", nullptr, m_shaded)
+                                  : tr("%1, %n groups marked", nullptr, m_shaded))
+                       .arg(text);
     }
-    setAccessibleName(m_count > 0 ? text : QStringLiteral("no pictures yet"));
+    setAccessibleName(m_count > 0 ? text : tr("no pictures yet"));
 }
 
 QSize PictureRows::sizeHint() const

@@ -107,18 +107,18 @@ int ShapeBoard::partAt(const QPointF& point) const
 
 QString ShapeBoard::description() const
 {
-    return QStringLiteral("a %1 cut into %2 equal parts, %3 coloured")
+    // The count also chooses a translation's plural form ("1 coloriée").
+    return tr("a %1 cut into %2 equal parts, %n coloured", nullptr, colouredCount())
         .arg(shapeNoun(m_kind))
-        .arg(partCount())
-        .arg(colouredCount());
+        .arg(partCount());
 }
 
 QString ShapeBoard::partName(int index) const
 {
-    return QStringLiteral("part %1 of %2, %3")
+    return tr("part %1 of %2, %3")
         .arg(index + 1)
         .arg(partCount())
-        .arg(isColoured(index) ? QStringLiteral("coloured") : QStringLiteral("not coloured"));
+        .arg(isColoured(index) ? tr("coloured") : tr("not coloured"));
 }
 
 QSize ShapeBoard::sizeHint() const

@@ -169,7 +169,7 @@ void TestY6fract3::check()
     if (descent < 0) {
         QCOMPARE(counter, 4);
         QVERIFY(std::any_of(std::begin(kPraise), std::end(kPraise), [this](const char* p) {
-            return form->Label2->text() == QString::fromLatin1(p) + Y6fract3::kRightOrder;
+            return form->Label2->text() == QString::fromLatin1(p) + Y6fract3::rightOrder();
         }));
         QVERIFY(form->Timer3->isEnabled() && !form->isEnabled() && Forms::find<Grey>()->Timer1->isEnabled());
         form->Timer3_Timer();
@@ -178,7 +178,7 @@ void TestY6fract3::check()
         return;
     }
     QCOMPARE(counter, 3);
-    QCOMPARE(form->Label2->text(), Y6fract3::kWrongOrder);
+    QCOMPARE(form->Label2->text(), Y6fract3::wrongOrder());
     QVERIFY(!form->Timer3->isEnabled() && !form->Timer5->isEnabled());
     for (int tick = 0; tick <= NumberSet::kCount; ++tick) {
         for (int i = 0; i < NumberSet::kCount; ++i)
@@ -275,19 +275,27 @@ void TestY6fract3::helpLeavesTheRunAlone()
     for (QLabel* l : help->examples)
         examples << l->objectName() + '=' + l->text();
     QCOMPARE(examples, QStringList({"Label3=3.4 7 2", "Label4=3.4 8 2", "Label5=3.4 9", "Label6=3.5 1 6", "Label7=4.2 1 1"}));
-    // Each "is less than" line sets off the first digits where its numbers
-    // differ, and the "since" line under it the same digits.
+    // Each comparing line sets off the first digit where its two numbers
+    // differ, and the "since" line under it names those same digits.
     for (std::size_t n = 1; n + 1 < help->kExplanation.size(); n += 2) {
-        const QString line = QString::fromLatin1(help->kExplanation[n].text);
-        const std::vector<int>& marks = help->kExplanation[n].compared;
-        for (std::size_t m = 0; m < marks.size(); ++m)
-            QCOMPARE(QString::fromLatin1(help->kExplanation[n + 1].text)[help->kExplanation[n + 1].compared[m]], line[marks[m]]);
-        const QStringList pair = line.split(QStringLiteral(" is less than "));
-        int d = 0;
-        while (pair.size() == 2 && pair[0][d] == pair[1][d])
-            ++d;
-        QVERIFY(pair.size() != 2 || marks == (std::vector<int>{d, int(pair[0].size()) + 14 + d}));
+        const auto& numbers = help->kExplanation[n].numbers;
+        const auto& since = help->kExplanation[n + 1].numbers;
+        QVERIFY(since.size() >= numbers.size());
+        for (std::size_t m = 0; m < numbers.size(); ++m) {
+            const char digit = numbers[m].digits[numbers[m].compared];
+            QCOMPARE(QString::fromLatin1(since[m].digits), QString(QChar::fromLatin1(digit)));
+        }
+        if (numbers.size() == 2) {
+            const QString a = QString::fromLatin1(numbers[0].digits), b = QString::fromLatin1(numbers[1].digits);
+            int d = 0;
+            while (a[d] == b[d])
+                ++d;
+            QVERIFY(numbers[0].compared == d && numbers[1].compared == d);
+        }
     }
+    QCOMPARE(help->Image2->text().count(QStringLiteral("font-weight:bold")), 15);
+    QVERIFY(help->Image2->text().contains(
+        QStringLiteral("3.4<span style=\"color:#ffe050; font-weight:bold; font-size:large;\">7</span>2 is less than")));
     QCOMPARE(snapshot(), before);
     help->cmdexit->click();
     TestSupport::flushUnloads();

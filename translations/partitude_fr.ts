@@ -1,0 +1,1524 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en_GB">
+<context>
+    <name>Activities</name>
+    <message>
+        <source>Mixed Numbers To Improper Fractions or Improper Fractions To Mixed Numbers</source>
+        <translation>Des nombres mixtes aux fractions plus grandes que 1, et inversement</translation>
+    </message>
+    <message>
+        <source>Choose 10 or 20 questions. Answer them correctly to gain a certificate.</source>
+        <translation>Choisis 10 ou 20 questions. Réponds-y correctement pour gagner un diplôme.</translation>
+    </message>
+    <message>
+        <source>Choose either 10 or 20 questions. Answer this number of questions correctly to gain a certificate.</source>
+        <translation>Choisis 10 ou 20 questions. Réponds correctement à toutes ces questions pour gagner un diplôme.</translation>
+    </message>
+    <message>
+        <source>Halves and Quarters 1</source>
+        <translation>Demis et quarts 1</translation>
+    </message>
+    <message>
+        <source>Halves and Quarters 2</source>
+        <translation>Demis et quarts 2</translation>
+    </message>
+    <message>
+        <source>Halves and Quarters 3</source>
+        <translation>Demis et quarts 3</translation>
+    </message>
+    <message>
+        <source>Halves, Quarters, Thirds and Tenths 1</source>
+        <translation>Demis, quarts, tiers et dixièmes 1</translation>
+    </message>
+    <message>
+        <source>Halves, Quarters, Thirds and Tenths 2</source>
+        <translation>Demis, quarts, tiers et dixièmes 2</translation>
+    </message>
+    <message>
+        <source>Halves, Quarters, Thirds and Tenths 3</source>
+        <translation>Demis, quarts, tiers et dixièmes 3</translation>
+    </message>
+    <message>
+        <source>Equivalent Fractions 3</source>
+        <translation>Fractions équivalentes 3</translation>
+    </message>
+    <message>
+        <source>Equivalent Fractions 2</source>
+        <translation>Fractions équivalentes 2</translation>
+    </message>
+    <message>
+        <source>Write A Fraction</source>
+        <translation>Écris une fraction</translation>
+    </message>
+    <message>
+        <source>Equivalent Fractions 1</source>
+        <translation>Fractions équivalentes 1</translation>
+    </message>
+    <message>
+        <source>More Than, Less Than</source>
+        <translation>Plus grand, plus petit</translation>
+    </message>
+    <message>
+        <source>Fractions of Numbers</source>
+        <translation>Fractions d&apos;un nombre</translation>
+    </message>
+    <message>
+        <source>Equivalent Fractions</source>
+        <translation>Fractions équivalentes</translation>
+    </message>
+    <message>
+        <source>Cancelling</source>
+        <translation>Simplifier</translation>
+    </message>
+    <message>
+        <source>Mixed Numbers and Improper Fractions</source>
+        <translation>Nombres mixtes et fractions plus grandes que 1</translation>
+    </message>
+    <message>
+        <source>Partitude</source>
+        <translation>Partitude</translation>
+    </message>
+    <message>
+        <source>Mixed Numbers To Improper Fractions</source>
+        <translation>Des nombres mixtes aux fractions plus grandes que 1</translation>
+    </message>
+    <message>
+        <source>Improper Fractions To Mixed Numbers</source>
+        <translation>Des fractions plus grandes que 1 aux nombres mixtes</translation>
+    </message>
+    <message>
+        <source>Decimals Between</source>
+        <translation>Décimaux entre deux nombres</translation>
+    </message>
+    <message>
+        <source>Place In Order</source>
+        <translation>Range dans l&apos;ordre</translation>
+    </message>
+    <message>
+        <source>How Many?</source>
+        <translation>Combien&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Finding Amounts</source>
+        <translation>Trouve la quantité</translation>
+    </message>
+    <message>
+        <source>Digits</source>
+        <translation>Les chiffres</translation>
+    </message>
+    <message>
+        <source>Rounding</source>
+        <translation>Arrondir</translation>
+    </message>
+</context>
+<context>
+    <name>ActivityForm</name>
+    <message>
+        <source>10 Questions</source>
+        <translation>10 questions</translation>
+    </message>
+    <message>
+        <source>20 Questions</source>
+        <translation>20 questions</translation>
+    </message>
+    <message>
+        <source>Print WorkSheet</source>
+        <translation>Imprimer la fiche</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Commencer</translation>
+    </message>
+    <message>
+        <source>Check Answers</source>
+        <translation>Vérifier</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Indice</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Sortir</translation>
+    </message>
+    <message>
+        <source>  You are now ready for the Challenge.  %1 correct answers on the run, with no hints. Click Start to take the Challenge.</source>
+        <translation>  Tu es prêt pour le Défi.  %1 bonnes réponses d&apos;affilée, sans indice. Clique sur Commencer pour relever le Défi.</translation>
+    </message>
+</context>
+<context>
+    <name>ActivityMenu</name>
+    <message>
+        <source>Open more activities</source>
+        <translation>Ouvrir d&apos;autres activités</translation>
+    </message>
+    <message>
+        <source>Open this activity</source>
+        <translation>Ouvrir cette activité</translation>
+    </message>
+    <message>
+        <source>Goodbye</source>
+        <translation>Au revoir</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Revenir en arrière</translation>
+    </message>
+</context>
+<context>
+    <name>BarModel</name>
+    <message numerus="yes">
+        <source>a bar of %1 cut into %n equal box</source>
+        <translation>
+            <numerusform>une barre de %1 coupée en %n case égale</numerusform>
+            <numerusform>une barre de %1 coupée en %n cases égales</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>a bar of %1 cut into %n equal boxes</source>
+        <translation>
+            <numerusform>une barre de %1 coupée en %n case égale</numerusform>
+            <numerusform>une barre de %1 coupée en %n cases égales</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2 in each box, %n box shaded</source>
+        <translation>
+            <numerusform>%1, %2 dans chaque case, %n case coloriée</numerusform>
+            <numerusform>%1, %2 dans chaque case, %n cases coloriées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2 in each box, %n boxes shaded</source>
+        <translation>
+            <numerusform>%1, %2 dans chaque case, %n case coloriée</numerusform>
+            <numerusform>%1, %2 dans chaque case, %n cases coloriées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 in each box</source>
+        <translation>%1, %2 dans chaque case</translation>
+    </message>
+</context>
+<context>
+    <name>ChoiceCards</name>
+    <message>
+        <source>answer cards</source>
+        <translation>cartes réponses</translation>
+    </message>
+    <message>
+        <source>card %1: %2</source>
+        <translation>carte %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the right answer</source>
+        <translation>la bonne réponse</translation>
+    </message>
+    <message>
+        <source>not the right answer</source>
+        <translation>pas la bonne réponse</translation>
+    </message>
+</context>
+<context>
+    <name>Comingsoon</name>
+    <message>
+        <source>This activity is still being made.
+Click Goodbye and choose another one for now.</source>
+        <translation>Cette activité est encore en préparation.
+Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
+    </message>
+    <message>
+        <source>Goodbye</source>
+        <translation>Au revoir</translation>
+    </message>
+</context>
+<context>
+    <name>Form1</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>  Secondary School version</source>
+        <translation>  Version collège</translation>
+    </message>
+    <message>
+        <source>  Primary School version</source>
+        <translation>  Version école primaire</translation>
+    </message>
+    <message>
+        <source>  Remove option to play sound</source>
+        <translation>  Retirer le choix du son</translation>
+    </message>
+    <message>
+        <source>Please choose the version of Partitude that you require</source>
+        <translation>Veuillez choisir la version de Partitude souhaitée</translation>
+    </message>
+    <message>
+        <source>Keep these choices and go on to choose your year</source>
+        <translation>Garder ces choix et passer au choix de la classe</translation>
+    </message>
+</context>
+<context>
+    <name>FractionWall</name>
+    <message>
+        <source>1 whole</source>
+        <translation>1 unité</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>a count of bricks and their name: 8 eighths</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>a row of %1, none shaded</source>
+        <translation>une rangée de %1, rien en couleur</translation>
+    </message>
+    <message>
+        <source>a row of %1, %2 shaded</source>
+        <translation>une rangée de %1 dont %2 en couleur</translation>
+    </message>
+    <message>
+        <source>an empty fraction wall</source>
+        <translation>un mur de fractions vide</translation>
+    </message>
+</context>
+<context>
+    <name>Fractions</name>
+    <message>
+        <source>zero</source>
+        <translation>zéro</translation>
+    </message>
+    <message>
+        <source>one</source>
+        <translation>un</translation>
+    </message>
+    <message>
+        <source>two</source>
+        <translation>deux</translation>
+    </message>
+    <message>
+        <source>three</source>
+        <translation>trois</translation>
+    </message>
+    <message>
+        <source>four</source>
+        <translation>quatre</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation>cinq</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>six</translation>
+    </message>
+    <message>
+        <source>seven</source>
+        <translation>sept</translation>
+    </message>
+    <message>
+        <source>eight</source>
+        <translation>huit</translation>
+    </message>
+    <message>
+        <source>nine</source>
+        <translation>neuf</translation>
+    </message>
+    <message>
+        <source>ten</source>
+        <translation>dix</translation>
+    </message>
+    <message>
+        <source>eleven</source>
+        <translation>onze</translation>
+    </message>
+    <message>
+        <source>twelve</source>
+        <translation>douze</translation>
+    </message>
+    <message>
+        <source>thirteen</source>
+        <translation>treize</translation>
+    </message>
+    <message>
+        <source>fourteen</source>
+        <translation>quatorze</translation>
+    </message>
+    <message>
+        <source>fifteen</source>
+        <translation>quinze</translation>
+    </message>
+    <message>
+        <source>sixteen</source>
+        <translation>seize</translation>
+    </message>
+    <message>
+        <source>seventeen</source>
+        <translation>dix-sept</translation>
+    </message>
+    <message>
+        <source>eighteen</source>
+        <translation>dix-huit</translation>
+    </message>
+    <message>
+        <source>nineteen</source>
+        <translation>dix-neuf</translation>
+    </message>
+    <message>
+        <source>twenty</source>
+        <translation>vingt</translation>
+    </message>
+    <message>
+        <source>%1th</source>
+        <translation>%1e</translation>
+    </message>
+    <message>
+        <source>%1ths</source>
+        <translation>%1es</translation>
+    </message>
+    <message>
+        <source>one %1th</source>
+        <translation>un %1e</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %2ths</source>
+        <translation>
+            <numerusform>%1 %2e</numerusform>
+            <numerusform>%1 %2es</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>a mixed number: five and two thirds</comment>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>halves</source>
+        <translation>demis</translation>
+    </message>
+    <message>
+        <source>thirds</source>
+        <translation>tiers</translation>
+    </message>
+    <message>
+        <source>quarters</source>
+        <translation>quarts</translation>
+    </message>
+    <message>
+        <source>fifths</source>
+        <translation>cinquièmes</translation>
+    </message>
+    <message>
+        <source>sixths</source>
+        <translation>sixièmes</translation>
+    </message>
+    <message>
+        <source>sevenths</source>
+        <translation>septièmes</translation>
+    </message>
+    <message>
+        <source>eighths</source>
+        <translation>huitièmes</translation>
+    </message>
+    <message>
+        <source>ninths</source>
+        <translation>neuvièmes</translation>
+    </message>
+    <message>
+        <source>tenths</source>
+        <translation>dixièmes</translation>
+    </message>
+    <message>
+        <source>half</source>
+        <translation>demi</translation>
+    </message>
+    <message>
+        <source>third</source>
+        <translation>tiers</translation>
+    </message>
+    <message>
+        <source>quarter</source>
+        <translation>quart</translation>
+    </message>
+    <message>
+        <source>fifth</source>
+        <translation>cinquième</translation>
+    </message>
+    <message>
+        <source>sixth</source>
+        <translation>sixième</translation>
+    </message>
+    <message>
+        <source>seventh</source>
+        <translation>septième</translation>
+    </message>
+    <message>
+        <source>eighth</source>
+        <translation>huitième</translation>
+    </message>
+    <message>
+        <source>ninth</source>
+        <translation>neuvième</translation>
+    </message>
+    <message>
+        <source>tenth</source>
+        <translation>dixième</translation>
+    </message>
+    <message>
+        <source>one half</source>
+        <translation>un demi</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 halves</source>
+        <translation>
+            <numerusform>%1 demi</numerusform>
+            <numerusform>%1 demis</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>one third</source>
+        <translation>un tiers</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 thirds</source>
+        <translation>
+            <numerusform>%1 tiers</numerusform>
+            <numerusform>%1 tiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>one quarter</source>
+        <translation>un quart</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 quarters</source>
+        <translation>
+            <numerusform>%1 quart</numerusform>
+            <numerusform>%1 quarts</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>one fifth</source>
+        <translation>un cinquième</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 fifths</source>
+        <translation>
+            <numerusform>%1 cinquième</numerusform>
+            <numerusform>%1 cinquièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>one sixth</source>
+        <translation>un sixième</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sixths</source>
+        <translation>
+            <numerusform>%1 sixième</numerusform>
+            <numerusform>%1 sixièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>one seventh</source>
+        <translation>un septième</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sevenths</source>
+        <translation>
+            <numerusform>%1 septième</numerusform>
+            <numerusform>%1 septièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>one eighth</source>
+        <translation>un huitième</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 eighths</source>
+        <translation>
+            <numerusform>%1 huitième</numerusform>
+            <numerusform>%1 huitièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>one ninth</source>
+        <translation>un neuvième</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 ninths</source>
+        <translation>
+            <numerusform>%1 neuvième</numerusform>
+            <numerusform>%1 neuvièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>one tenth</source>
+        <translation>un dixième</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tenths</source>
+        <translation>
+            <numerusform>%1 dixième</numerusform>
+            <numerusform>%1 dixièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>eleventh</source>
+        <translation>onzième</translation>
+    </message>
+    <message>
+        <source>elevenths</source>
+        <translation>onzièmes</translation>
+    </message>
+    <message>
+        <source>one eleventh</source>
+        <translation>un onzième</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 elevenths</source>
+        <translation>
+            <numerusform>%1 onzième</numerusform>
+            <numerusform>%1 onzièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>twelfth</source>
+        <translation>douzième</translation>
+    </message>
+    <message>
+        <source>twelfths</source>
+        <translation>douzièmes</translation>
+    </message>
+    <message>
+        <source>one twelfth</source>
+        <translation>un douzième</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 twelfths</source>
+        <translation>
+            <numerusform>%1 douzième</numerusform>
+            <numerusform>%1 douzièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>twentieth</source>
+        <translation>vingtième</translation>
+    </message>
+    <message>
+        <source>twentieths</source>
+        <translation>vingtièmes</translation>
+    </message>
+    <message>
+        <source>one twentieth</source>
+        <translation>un vingtième</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 twentieths</source>
+        <translation>
+            <numerusform>%1 vingtième</numerusform>
+            <numerusform>%1 vingtièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>hundredth</source>
+        <translation>centième</translation>
+    </message>
+    <message>
+        <source>hundredths</source>
+        <translation>centièmes</translation>
+    </message>
+    <message>
+        <source>one hundredth</source>
+        <translation>un centième</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 hundredths</source>
+        <translation>
+            <numerusform>%1 centième</numerusform>
+            <numerusform>%1 centièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>thousandth</source>
+        <translation>millième</translation>
+    </message>
+    <message>
+        <source>thousandths</source>
+        <translation>millièmes</translation>
+    </message>
+    <message>
+        <source>one thousandth</source>
+        <translation>un millième</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 thousandths</source>
+        <translation>
+            <numerusform>%1 millième</numerusform>
+            <numerusform>%1 millièmes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Halves</name>
+    <message>
+        <source>Click on one half of the %1</source>
+        <translation>Clique sur la moitié des %1</translation>
+    </message>
+    <message>
+        <source>Click on one quarter of the %1</source>
+        <translation>Clique sur un quart des %1</translation>
+    </message>
+    <message>
+        <source>You chose one half of the %1</source>
+        <translation>Tu as choisi la moitié des %1</translation>
+    </message>
+    <message>
+        <source>You chose one quarter of the %1</source>
+        <translation>Tu as choisi un quart des %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>You should have clicked on %n picture</source>
+        <translation>
+            <numerusform>Il fallait cliquer sur %n image</numerusform>
+            <numerusform>Il fallait cliquer sur %n images</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>You should have clicked on %n pictures</source>
+        <translation>
+            <numerusform>Il fallait cliquer sur %n image</numerusform>
+            <numerusform>Il fallait cliquer sur %n images</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>holly</source>
+        <translation>houx</translation>
+    </message>
+    <message>
+        <source>ducks</source>
+        <translation>canards</translation>
+    </message>
+    <message>
+        <source>suns</source>
+        <translation>soleils</translation>
+    </message>
+    <message>
+        <source>dinosaurs</source>
+        <translation>dinosaures</translation>
+    </message>
+    <message>
+        <source>spiders</source>
+        <translation>araignées</translation>
+    </message>
+    <message>
+        <source>gorillas</source>
+        <translation>gorilles</translation>
+    </message>
+</context>
+<context>
+    <name>HalvesOfNumbers</name>
+    <message>
+        <source>What is %1 of %2?</source>
+        <translation>Combien font %1 de %2&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is %3.</source>
+        <translation>%1 de %2, c&apos;est %3.</translation>
+    </message>
+    <message>
+        <source>Type your answer in the box first!</source>
+        <translation>Écris d&apos;abord ta réponse dans la case&#xa0;!</translation>
+    </message>
+    <message>
+        <source>0 is not the answer: look at the pictures again.</source>
+        <translation>0 n&apos;est pas la réponse&#xa0;: regarde encore les images.</translation>
+    </message>
+    <message>
+        <source>Share the %1 %2 into %3 equal groups: %4 in each group.</source>
+        <translation>Partage les %1 %2 en %3 groupes égaux&#xa0;: %4 dans chaque groupe.</translation>
+    </message>
+    <message>
+        <source>%1 is 1 group: %2 %3.</source>
+        <translation>%1, c&apos;est 1 groupe&#xa0;: %2 %3.</translation>
+    </message>
+    <message>
+        <source>%1 is %4 groups: %2 %3.</source>
+        <translation>%1, c&apos;est %4 groupes&#xa0;: %2 %3.</translation>
+    </message>
+</context>
+<context>
+    <name>HalvesShapes</name>
+    <message numerus="yes">
+        <source>%n part</source>
+        <translation>
+            <numerusform>%n part</numerusform>
+            <numerusform>%n parts</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parts</source>
+        <translation>
+            <numerusform>%n part</numerusform>
+            <numerusform>%n parts</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Colour %1 of the %2.</source>
+        <translation>Colorie %1 du %2.</translation>
+    </message>
+    <message>
+        <source>You must colour some parts!</source>
+        <translation>Tu dois colorier des parts&#xa0;!</translation>
+    </message>
+    <message>
+        <source>You coloured %1 of the %2.</source>
+        <translation>Tu as colorié %1 du %2.</translation>
+    </message>
+    <message>
+        <source>Two quarters is the same as one half.</source>
+        <translation>Deux quarts, c&apos;est la même chose qu&apos;un demi.</translation>
+    </message>
+    <message>
+        <source>You coloured %1 of the %2 parts: that is %3. %4 is %5.</source>
+        <translation>Tu as colorié %1 des %2 parts&#xa0;: cela fait %3. %4, c&apos;est %5.</translation>
+    </message>
+    <message>
+        <source>The %1 is cut into %2 equal parts.</source>
+        <translation>Le %1 est coupé en %2 parts égales.</translation>
+    </message>
+    <message>
+        <source>%1 is %2 of them.</source>
+        <translation>%1, c&apos;est %2 de ces parts.</translation>
+    </message>
+    <message>
+        <source>You have not coloured any yet.</source>
+        <translation>Tu n&apos;en as encore colorié aucune.</translation>
+    </message>
+    <message>
+        <source>You have coloured %1.</source>
+        <translation>Tu en as colorié %1.</translation>
+    </message>
+</context>
+<context>
+    <name>HundredSquare</name>
+    <message>
+        <source>a hundred square with %1 small squares shaded</source>
+        <translation>un carré de cent avec %1 petits carrés coloriés</translation>
+    </message>
+</context>
+<context>
+    <name>KitScreen</name>
+    <message>
+        <source>Click Start to have another go... or click Exit</source>
+        <translation>Clique sur Commencer pour rejouer... ou clique sur Sortir</translation>
+    </message>
+    <message>
+        <source>Good Luck.</source>
+        <translation>Bonne chance&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Aim to get 10 or 20 questions correct to gain a certificate.</source>
+        <translation>Essaie de réussir 10 ou 20 questions pour gagner un diplôme.</translation>
+    </message>
+    <message>
+        <source>Not quite. %1</source>
+        <translation>Pas tout à fait. %1</translation>
+    </message>
+</context>
+<context>
+    <name>Menus</name>
+    <message>
+        <source>Welcome</source>
+        <translation>Bienvenue</translation>
+    </message>
+    <message>
+        <source>Mixed Numbers and Improper Fractions</source>
+        <translation>Nombres mixtes et fractions plus grandes que 1</translation>
+    </message>
+</context>
+<context>
+    <name>MixedQuestion</name>
+    <message>
+        <source>%1 and %2/%3</source>
+        <comment>a mixed number: 2 and 3/4</comment>
+        <translation>%1 et %2/%3</translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <comment>one number is another: 11/4 is 2 and 3/4</comment>
+        <translation>%1, c&apos;est %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %2 is %n whole one with %3 %4 left over.</source>
+        <translation>
+            <numerusform>%1 %2, c&apos;est %n unité et il reste %3 %4.</numerusform>
+            <numerusform>%1 %2, c&apos;est %n unités et il reste %3 %4.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %2 is %n whole ones with %3 %4 left over.</source>
+        <translation>
+            <numerusform>%1 %2, c&apos;est %n unité et il reste %3 %4.</numerusform>
+            <numerusform>%1 %2, c&apos;est %n unités et il reste %3 %4.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Each whole number is %1 %2. You have %n whole number and %3 %4.</source>
+        <translation>
+            <numerusform>Chaque unité vaut %1 %2. Tu as %n unité et %3 %4.</numerusform>
+            <numerusform>Chaque unité vaut %1 %2. Tu as %n unités et %3 %4.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Each whole number is %1 %2. You have %n whole numbers and %3 %4.</source>
+        <translation>
+            <numerusform>Chaque unité vaut %1 %2. Tu as %n unité et %3 %4.</numerusform>
+            <numerusform>Chaque unité vaut %1 %2. Tu as %n unités et %3 %4.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Module1</name>
+    <message>
+        <source>Check Your Answer</source>
+        <translation>Vérifie ta réponse</translation>
+    </message>
+    <message>
+        <source>Press To Start</source>
+        <translation>Appuie pour commencer</translation>
+    </message>
+    <message>
+        <source>Print A Worksheet</source>
+        <translation>Imprimer une fiche</translation>
+    </message>
+    <message>
+        <source>Goodbye</source>
+        <translation>Au revoir</translation>
+    </message>
+    <message>
+        <source>Get Some Help</source>
+        <translation>Demande de l&apos;aide</translation>
+    </message>
+    <message>
+        <source>Well done! </source>
+        <translation>Bien joué&#xa0;! </translation>
+    </message>
+    <message>
+        <source>Good work! </source>
+        <translation>Beau travail&#xa0;! </translation>
+    </message>
+    <message>
+        <source>Cool! </source>
+        <translation>Trop cool&#xa0;! </translation>
+    </message>
+    <message>
+        <source>Smart cookie! </source>
+        <translation>Petit génie&#xa0;! </translation>
+    </message>
+    <message>
+        <source>Yes! </source>
+        <translation>Oui&#xa0;! </translation>
+    </message>
+    <message>
+        <source>Great! </source>
+        <translation>Génial&#xa0;! </translation>
+    </message>
+    <message>
+        <source>Yipee! </source>
+        <translation>Youpi&#xa0;! </translation>
+    </message>
+    <message>
+        <source>Brilliant! </source>
+        <translation>Brillant&#xa0;! </translation>
+    </message>
+    <message>
+        <source>Wicked! </source>
+        <translation>Trop fort&#xa0;! </translation>
+    </message>
+    <message>
+        <source>Wonderful! </source>
+        <translation>Merveilleux&#xa0;! </translation>
+    </message>
+    <message>
+        <source>Super! </source>
+        <translation>Super&#xa0;! </translation>
+    </message>
+    <message>
+        <source>Excellent! </source>
+        <translation>Excellent&#xa0;! </translation>
+    </message>
+</context>
+<context>
+    <name>NumberLine</name>
+    <message>
+        <source>a number line</source>
+        <translation>une droite graduée</translation>
+    </message>
+    <message>
+        <source>a number line from %1 to %2</source>
+        <translation>une droite graduée de %1 à %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 to round</source>
+        <translation>%1, %2 à arrondir</translation>
+    </message>
+    <message>
+        <source>%1, %2 marked</source>
+        <translation>%1, %2 marqué</translation>
+    </message>
+</context>
+<context>
+    <name>Options</name>
+    <message>
+        <source>Folder holding the program&apos;s pictures and sounds (ico, gif, bmp, jpg2, reward, wmf, wav).</source>
+        <translation>Dossier des images et des sons du programme (ico, gif, bmp, jpg2, reward, wmf, wav).</translation>
+    </message>
+    <message>
+        <source>DIR</source>
+        <translation>DOSSIER</translation>
+    </message>
+    <message>
+        <source>Folder holding primary.inf and sound.inf; point every account at one shared folder to share the choice.</source>
+        <translation>Dossier de primary.inf et de sound.inf&#xa0;; indiquez à tous les comptes un même dossier partagé pour partager le choix.</translation>
+    </message>
+    <message>
+        <source>Print every page to a new PDF file in DIR instead of the printer.</source>
+        <translation>Imprimer chaque page dans un nouveau fichier PDF du DOSSIER au lieu de l&apos;imprimante.</translation>
+    </message>
+    <message>
+        <source>Partitude: fractions practice and Challenges for Years 2 to 6.</source>
+        <translation>Partitude&#xa0;: exercices et Défis sur les fractions, du CP au CM2.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureRows</name>
+    <message numerus="yes">
+        <source>%1 in %n group of %2</source>
+        <translation>
+            <numerusform>%1 en %n groupe de %2</numerusform>
+            <numerusform>%1 en %n groupes de %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %n groups of %2</source>
+        <translation>
+            <numerusform>%1 en %n groupe de %2</numerusform>
+            <numerusform>%1 en %n groupes de %2</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n group marked</source>
+        <translation>
+            <numerusform>%1, %n groupe marqué</numerusform>
+            <numerusform>%1, %n groupes marqués</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n groups marked</source>
+        <translation>
+            <numerusform>%1, %n groupe marqué</numerusform>
+            <numerusform>%1, %n groupes marqués</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no pictures yet</source>
+        <translation>pas encore d&apos;images</translation>
+    </message>
+</context>
+<context>
+    <name>Pictures</name>
+    <message>
+        <source>Partitude cannot go on: the picture file &quot;%1&quot; is missing or cannot be read.
+
+Partitude looks for its pictures in the folder:
+%2</source>
+        <translation>Partitude ne peut pas continuer&#xa0;: le fichier d&apos;image «&#xa0;%1&#xa0;» est absent ou illisible.
+
+Partitude cherche ses images dans le dossier&#xa0;:
+%2</translation>
+    </message>
+    <message>
+        <source>Partitude cannot go on: the picture file &quot;%1&quot; cannot be read: %2.
+
+Partitude looks for its pictures in the folder:
+%3</source>
+        <translation>Partitude ne peut pas continuer&#xa0;: le fichier d&apos;image «&#xa0;%1&#xa0;» est illisible&#xa0;: %2.
+
+Partitude cherche ses images dans le dossier&#xa0;:
+%3</translation>
+    </message>
+</context>
+<context>
+    <name>PicturesBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>ta réponse</translation>
+    </message>
+    <message>
+        <source>Share the pictures into equal groups to find the answer.</source>
+        <translation>Partage les images en groupes égaux pour trouver la réponse.</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceValueHeads</name>
+    <message>
+        <source>units</source>
+        <translation>unités</translation>
+    </message>
+</context>
+<context>
+    <name>Reward</name>
+    <message>
+        <source>You have been unsuccessful in the Challenge.</source>
+        <translation>Tu n&apos;as pas réussi le Défi.</translation>
+    </message>
+    <message>
+        <source>The Challenge will begin again.</source>
+        <translation>Le Défi va recommencer.</translation>
+    </message>
+</context>
+<context>
+    <name>ShapeBoard</name>
+    <message>
+        <source>part %1 of %2, %3</source>
+        <translation>part %1 sur %2, %3</translation>
+    </message>
+    <message>
+        <source>coloured</source>
+        <translation>coloriée</translation>
+    </message>
+    <message>
+        <source>not coloured</source>
+        <translation>pas coloriée</translation>
+    </message>
+    <message numerus="yes">
+        <source>a %1 cut into %2 equal parts, %n coloured</source>
+        <translation>
+            <numerusform>un %1 coupé en %2 parts égales, %n coloriée</numerusform>
+            <numerusform>un %1 coupé en %2 parts égales, %n coloriées</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ShapeKind</name>
+    <message>
+        <source>circle</source>
+        <translation>cercle</translation>
+    </message>
+    <message>
+        <source>strip</source>
+        <translation>ruban</translation>
+    </message>
+    <message>
+        <source>rectangle</source>
+        <translation>rectangle</translation>
+    </message>
+    <message>
+        <source>square</source>
+        <translation>carré</translation>
+    </message>
+</context>
+<context>
+    <name>ShapesBoard</name>
+    <message>
+        <source>Colour the part of each shape that the question asks for.</source>
+        <translation>Colorie dans chaque forme la part que demande la question.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 parts</source>
+        <translation>%1 des %2 parts</translation>
+    </message>
+</context>
+<context>
+    <name>Startup</name>
+    <message>
+        <source>Partitude needs a display and found none; without one, run it under Xvfb: %1
+</source>
+        <translation>Partitude a besoin d&apos;un écran et n&apos;en a trouvé aucun&#xa0;; sans écran, lancez-le sous Xvfb&#xa0;: %1
+</translation>
+    </message>
+</context>
+<context>
+    <name>Titlefrm</name>
+    <message>
+        <source>Exit</source>
+        <translation>Sortir</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Made by the Partitude team</source>
+        <translation>Créé par l&apos;équipe Partitude</translation>
+    </message>
+    <message>
+        <source>Go on to choose your year</source>
+        <translation>Continuer pour choisir ta classe</translation>
+    </message>
+    <message>
+        <source>Close Partitude</source>
+        <translation>Fermer Partitude</translation>
+    </message>
+</context>
+<context>
+    <name>Welldone</name>
+    <message>
+        <source>Excellent!</source>
+        <translation>Excellent&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Congratulations!!!</source>
+        <translation>Félicitations&#xa0;!!!</translation>
+    </message>
+    <message>
+        <source>you have completed the work successfully</source>
+        <translation>tu as réussi ton travail</translation>
+    </message>
+    <message>
+        <source>you have risen to the Challenge</source>
+        <translation>tu as relevé le Défi</translation>
+    </message>
+    <message>
+        <source>en_GB</source>
+        <extracomment>The locale whose month names and date order the certificate uses.</extracomment>
+        <translation>fr_FR</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <translation>d MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>There was a problem printing to your printer.</source>
+        <translation>Il y a eu un problème d&apos;impression avec ton imprimante.</translation>
+    </message>
+    <message>
+        <source>Excellent work you have completed this task successfully</source>
+        <translation>Excellent travail, tu as réussi cette activité</translation>
+    </message>
+    <message>
+        <source>Enter your name in the box above before printing your certificate</source>
+        <translation>Écris ton nom dans la case au-dessus avant d&apos;imprimer ton diplôme</translation>
+    </message>
+    <message>
+        <source>Print Certificate</source>
+        <translation>Imprimer le diplôme</translation>
+    </message>
+    <message>
+        <source>Well Done!</source>
+        <translation>Bravo&#xa0;!</translation>
+    </message>
+    <message>
+        <source>your name</source>
+        <translation>ton nom</translation>
+    </message>
+    <message>
+        <source>Goodbye</source>
+        <translation>Au revoir</translation>
+    </message>
+    <message>
+        <source>   Well Done      Well Done     Well Done     Well Done    </source>
+        <translation>   Bravo      Bravo     Bravo     Bravo    </translation>
+    </message>
+    <message>
+        <source>Congratulations!!! You have risen to the Challenge.</source>
+        <translation>Félicitations&#xa0;!!! Tu as relevé le Défi.</translation>
+    </message>
+    <message>
+        <source>Printing has been cancelled.</source>
+        <translation>L&apos;impression a été annulée.</translation>
+    </message>
+</context>
+<context>
+    <name>WorksheetForm</name>
+    <message>
+        <source>Print a worksheet</source>
+        <translation>Imprimer une fiche</translation>
+    </message>
+</context>
+<context>
+    <name>Worksheets</name>
+    <message>
+        <source>Do you really want to print?</source>
+        <translation>Veux-tu vraiment imprimer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Printing has been cancelled.</source>
+        <translation>L&apos;impression a été annulée.</translation>
+    </message>
+    <message>
+        <source>There was a problem printing to your printer.</source>
+        <translation>Il y a eu un problème d&apos;impression avec ton imprimante.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Partitude - fractions for ages 6 to 11</source>
+        <translation>Partitude - les fractions de 6 à 11 ans</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Réponses</translation>
+    </message>
+</context>
+<context>
+    <name>Y2fractions</name>
+    <message>
+        <source>Click Start to have another go... or click Exit</source>
+        <translation>Clique sur Commencer pour rejouer... ou clique sur Sortir</translation>
+    </message>
+    <message>
+        <source>Good Luck.</source>
+        <translation>Bonne chance&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Aim to get 10 or 20 questions correct to gain a certificate.</source>
+        <translation>Essaie de réussir 10 ou 20 questions pour gagner un diplôme.</translation>
+    </message>
+    <message>
+        <source>You must choose some pictures!</source>
+        <translation>Tu dois choisir des images&#xa0;!</translation>
+    </message>
+    <message>
+        <source>You have not chosen enough!</source>
+        <translation>Tu n&apos;en as pas choisi assez&#xa0;!</translation>
+    </message>
+    <message>
+        <source>You don&apos;t need a hint, you have the right answer!</source>
+        <translation>Tu n&apos;as pas besoin d&apos;indice, tu as la bonne réponse&#xa0;!</translation>
+    </message>
+    <message>
+        <source>You have chosen too many!</source>
+        <translation>Tu en as choisi trop&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>Y6fract3</name>
+    <message>
+        <source>Click the numbers, in order, starting with the smallest....</source>
+        <translation>Clique sur les nombres, dans l&apos;ordre, en commençant par le plus petit....</translation>
+    </message>
+    <message>
+        <source> The numbers are in the correct order</source>
+        <translation> Les nombres sont dans le bon ordre</translation>
+    </message>
+    <message>
+        <source>Unlucky! The correct order is:</source>
+        <translation>Dommage&#xa0;! Le bon ordre est&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Incorrect!</source>
+        <translation>Faux&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Place In Order</source>
+        <translation>Range dans l&apos;ordre</translation>
+    </message>
+    <message>
+        <source>Click Start to have another go... or click Exit</source>
+        <translation>Clique sur Commencer pour rejouer... ou clique sur Sortir</translation>
+    </message>
+    <message>
+        <source>Click each number starting with the smallest.</source>
+        <translation>Clique sur chaque nombre en commençant par le plus petit.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Smallest</source>
+        <translation>Le&#x202f;+&#x202f;petit</translation>
+    </message>
+    <message>
+        <source>Biggest</source>
+        <translation>Le&#x202f;+&#x202f;grand</translation>
+    </message>
+    <message>
+        <source>Good Luck.</source>
+        <translation>Bonne chance&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Aim to get 10 or 20 questions correct to gain a certificate.</source>
+        <translation>Essaie de réussir 10 ou 20 questions pour gagner un diplôme.</translation>
+    </message>
+</context>
+<context>
+    <name>Year</name>
+    <message>
+        <source>Year 5</source>
+        <translation>CM1</translation>
+    </message>
+    <message>
+        <source>Year 2</source>
+        <translation>CP</translation>
+    </message>
+    <message>
+        <source>Unit 1</source>
+        <translation>Unité 1</translation>
+    </message>
+    <message>
+        <source>Year 3</source>
+        <translation>CE1</translation>
+    </message>
+    <message>
+        <source>Unit 2</source>
+        <translation>Unité 2</translation>
+    </message>
+    <message>
+        <source>Year 4</source>
+        <translation>CE2</translation>
+    </message>
+    <message>
+        <source>Unit 3</source>
+        <translation>Unité 3</translation>
+    </message>
+    <message>
+        <source>Unit 4</source>
+        <translation>Unité 4</translation>
+    </message>
+    <message>
+        <source>Year 6</source>
+        <translation>CM2</translation>
+    </message>
+    <message>
+        <source>Unit 5</source>
+        <translation>Unité 5</translation>
+    </message>
+    <message>
+        <source>Fractions made friendly</source>
+        <translation>Les fractions, c&apos;est facile</translation>
+    </message>
+    <message>
+        <source>Visit our web site</source>
+        <translation>Visite notre site web</translation>
+    </message>
+    <message>
+        <source>Back to the start</source>
+        <translation>Retour au début</translation>
+    </message>
+    <message>
+        <source>Go back to the first screen</source>
+        <translation>Revenir au premier écran</translation>
+    </message>
+    <message>
+        <source>  Play Sound</source>
+        <translation>  Activer le son</translation>
+    </message>
+    <message>
+        <source>Unit  %1</source>
+        <translation>Unité  %1</translation>
+    </message>
+    <message>
+        <source>Open the activities of %1</source>
+        <translation>Ouvrir les activités&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>orderhelp</name>
+    <message>
+        <source>Reading from the left :</source>
+        <translation>En lisant à partir de la gauche&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1 is less than %2</source>
+        <translation>%1 est plus petit que %2</translation>
+    </message>
+    <message>
+        <source>since the %1 is less than the %2</source>
+        <translation>car le %1 est plus petit que le %2</translation>
+    </message>
+    <message>
+        <source>%1 is the biggest</source>
+        <translation>%1 est le plus grand</translation>
+    </message>
+    <message>
+        <source>since %1 units is bigger than %2 units</source>
+        <translation>car %1 unités, c&apos;est plus que %2 unités</translation>
+    </message>
+    <message>
+        <source>Happy to help</source>
+        <translation>Un petit coup de main</translation>
+    </message>
+    <message>
+        <source>The following decimals are in order of size starting with the smallest:</source>
+        <translation>Ces nombres décimaux sont rangés du plus petit au plus grand&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Sortir</translation>
+    </message>
+    <message>
+        <source>Year 6 </source>
+        <translation>CM2 </translation>
+    </message>
+    <message>
+        <source>Goodbye</source>
+        <translation>Au revoir</translation>
+    </message>
+</context>
+<context>
+    <name>y5fract4</name>
+    <message>
+        <source>Change to a mixed number...</source>
+        <translation>Écris-la sous forme de nombre mixte...</translation>
+    </message>
+    <message>
+        <source>Type in the correct mixed number and use the ENTER key to move on</source>
+        <translation>Tape le bon nombre mixte et appuie sur ENTRÉE pour continuer</translation>
+    </message>
+    <message>
+        <source>Change to an improper fraction...</source>
+        <translation>Écris-le sous forme de fraction...</translation>
+    </message>
+    <message>
+        <source>Type in the correct fraction and use the ENTER key to move on</source>
+        <translation>Tape la bonne fraction et appuie sur ENTRÉE pour continuer</translation>
+    </message>
+    <message>
+        <source>Incorrect! %1</source>
+        <translation>Faux&#xa0;! %1</translation>
+    </message>
+    <message>
+        <source>Aim to get 10 or 20 questions correct to gain a certifcate.</source>
+        <translation>Essaie de réussir 10 ou 20 questions pour gagner un diplôme.</translation>
+    </message>
+    <message>
+        <source>Good Luck.</source>
+        <translation>Bonne chance&#xa0;!</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>nombre entier</translation>
+    </message>
+    <message>
+        <source>top number</source>
+        <translation>nombre du haut</translation>
+    </message>
+    <message>
+        <source>bottom number</source>
+        <translation>nombre du bas</translation>
+    </message>
+    <message>
+        <source>Type in your mixed number and use the ENTER key to move on</source>
+        <translation>Tape ton nombre mixte et appuie sur ENTRÉE pour continuer</translation>
+    </message>
+    <message>
+        <source>Click Start to have another go... or click Exit</source>
+        <translation>Clique sur Commencer pour rejouer... ou clique sur Sortir</translation>
+    </message>
+</context>
+</TS>
