@@ -4,7 +4,7 @@
 # the packages to install by hand and goes on.
 set -euo pipefail
 
-packages=(cmake g++ make qt6-base-dev qt6-svg-dev qt6-multimedia-dev qt6-tools-dev qt6-l10n-tools
+packages=(cmake g++ make qt6-base-dev qt6-svg-dev qt6-multimedia-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
           libgif-dev fonts-liberation2 fonts-noto-color-emoji poppler-utils xvfb xauth
           dbus-daemon dbus-bin at-spi2-core python3-gi gir1.2-atspi-2.0
           clang libclang-rt-14-dev)
