@@ -4,6 +4,7 @@
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"
 #include "runtime/random.h"
+#include "runtime/spoken.h"
 #include "shell/activityform.h"
 #include "shell/module1.h"
 #include "worksheets/printforms.h"
@@ -24,6 +25,9 @@ void Run::setLabels(QLabel* instruction, QLabel* message, QLabel* endOfRun)
     m_instruction = instruction;
     m_message = message;
     m_end = endOfRun;
+    // Praise, "Incorrect!" and the ready text are spoken as they appear.
+    Spoken::markAsMessage(message);
+    Spoken::markAsMessage(endOfRun);
 }
 
 void Run::begin()
@@ -99,7 +103,7 @@ void Run::showMessage(const QString& text)
 {
     m_message->setText(text);
     m_instruction->hide();
-    m_message->show();
+    Spoken::showMessage(m_message);
 }
 
 void Run::showInstruction()

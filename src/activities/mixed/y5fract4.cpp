@@ -1,6 +1,7 @@
 #include "y5fract4.h"
 
 #include "kit/parts/answerbox.h"
+#include "fractions/fraction.h"
 #include "kit/run.h"
 #include "rewards/grey.h"
 #include "runtime/formtimer.h"
@@ -104,7 +105,12 @@ void y5fract4::newquestion()
 {
     setEnabled(true);
     Random::Randomize();
-    m_question = MixedQuestion::draw(Random::program());
+    showQuestion(MixedQuestion::draw(Random::program()));
+}
+
+void y5fract4::showQuestion(const MixedQuestion& question)
+{
+    m_question = question;
     m_answertext = m_question.answerText();
     if (m_question.direction == MixedQuestion::kToMixed) {
         Label1->setText(QStringLiteral("Change to a mixed number..."));
@@ -121,6 +127,8 @@ void y5fract4::newquestion()
         Picture2->show();
         Label7->setText(QString::number(m_question.improperNumerator()));
         Label9->setText(QString::number(m_question.denom));
+        // A reader hears the stacked numbers as the fraction they make.
+        Picture2->setAccessibleName(tr("%1 equals").arg(Fractions::words(m_question.improperNumerator(), m_question.denom)));
         Text1->setFocus();
     } else {
         Label1->setText(QStringLiteral("Change to an improper fraction..."));
@@ -137,6 +145,9 @@ void y5fract4::newquestion()
         Label19->setText(QString::number(m_question.whole));
         Label15->setText(QString::number(m_question.denom));
         Label16->setText(QString::number(m_question.numer));
+        Picture3->setAccessibleName(tr("%1 and %2 equals")
+                                        .arg(Fractions::numberWord(m_question.whole),
+                                             Fractions::words(m_question.numer, m_question.denom)));
         Text3->setFocus();
     }
 }
@@ -150,6 +161,7 @@ bool y5fract4::enter(QLineEdit* box, QLabel* label)
         return false;
     }
     label->setText(box->text());
+    label->setAccessibleName(tr("%1, %2").arg(box->accessibleName(), box->text())); // "top number, 3"
     label->show();
     box->hide();
     return true;
