@@ -11,6 +11,7 @@ namespace {
 const char* const kMessageMark = "spokenMessage";
 const char* const kGroupMark = "spokenAsOne";
 const char* const kPartMark = "spokenByItsGroup";
+const char* const kPictureMark = "spokenAsPicture";
 
 bool marked(const QObject* object, const char* mark)
 {
@@ -34,6 +35,20 @@ public:
         const QString shown = static_cast<const QLabel*>(widget())->text();
         const QString plain = Qt::mightBeRichText(shown) ? QTextDocumentFragment::fromHtml(shown).toPlainText() : shown;
         return plain.simplified();
+    }
+};
+
+// A picture: an image, or a panel while it holds controls.
+class PictureAccessible : public QAccessibleWidget {
+public:
+    explicit PictureAccessible(QWidget* picture)
+        : QAccessibleWidget(picture, QAccessible::Graphic)
+    {
+    }
+
+    QAccessible::Role role() const override
+    {
+        return childCount() > 0 ? QAccessible::Pane : QAccessible::Graphic;
     }
 };
 
@@ -79,6 +94,9 @@ QAccessibleInterface* spokenFactory(const QString&, QObject* object)
     if (marked(object, kMessageMark))
         if (auto* label = qobject_cast<QLabel*>(object))
             return new MessageAccessible(label);
+    if (marked(object, kPictureMark))
+        if (auto* picture = qobject_cast<QWidget*>(object))
+            return new PictureAccessible(picture);
     if (marked(object, kGroupMark))
         if (auto* group = qobject_cast<QWidget*>(object))
             return new GroupAccessible(group);
@@ -127,6 +145,11 @@ void showMessage(QLabel* label)
     // The same news for readers that listen for alerts.
     QAccessibleEvent alert(label, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void markAsPicture(QWidget* widget)
+{
+    mark<PictureAccessible>(widget, kPictureMark);
 }
 
 void readAsOne(QWidget* group)

@@ -94,6 +94,8 @@ private slots:
     void everythingShownIsNamed_data();
     void everythingShownIsNamed();
     void picturesSayWhatAndWhere();
+    void picturesAreImages_data();
+    void picturesAreImages();
     void mixedNumbersReadInWords_data();
     void mixedNumbersReadInWords();
     void messagesAreSpoken_data();
@@ -198,6 +200,35 @@ void TestScreenReader::picturesSayWhatAndWhere()
              QStringLiteral("%1 3 of %2, not chosen").arg(form->question.onePictureName()).arg(form->question.howmany));
 }
 
+void TestScreenReader::picturesAreImages_data()
+{
+    QTest::addColumn<QString>("screen");
+    QTest::addColumn<QString>("picture");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("role");
+    const int image = QAccessible::Graphic;
+    QTest::newRow("title") << "Titlefrm" << "Picture1" << "Partitude title picture" << image;
+    QTest::newRow("year menu logo") << "Year" << "Picture1" << "Partitude logo" << image;
+    QTest::newRow("year menu publisher") << "Year" << "Picture2" << "Partitude Learning logo" << image;
+    QTest::newRow("activity menu logo") << "y4Intro" << "Picture1" << "Partitude logo" << image;
+    QTest::newRow("worksheet") << "y2fracprint1" << "Picture1" << "the worksheet" << image;
+    // A picture box that holds the opening words is a panel, not an image.
+    QTest::newRow("opening panel") << "Y2fractions" << "Picture1" << "" << int(QAccessible::Pane);
+}
+
+void TestScreenReader::picturesAreImages()
+{
+    QFETCH(QString, screen);
+    QFETCH(QString, picture);
+    QFETCH(QString, name);
+    QFETCH(int, role);
+    QWidget* box = Forms::show(screen)->findChild<QWidget*>(picture);
+    QVERIFY(box && box->isVisible());
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(box);
+    QCOMPARE(int(face->role()), role);
+    QCOMPARE(face->text(QAccessible::Name), name);
+}
+
 void TestScreenReader::mixedNumbersReadInWords_data()
 {
     QTest::addColumn<int>("direction");
@@ -293,6 +324,18 @@ void TestScreenReader::messagesAreSpoken_data()
         }
         return form->Label2;
     }) << QStringLiteral("Incorrect! ");
+    QTest::newRow("a mixed-number hint") << Message([] {
+        auto* form = openActivity<y5fract4>("y5Intro2", "Command1");
+        form->cmdstart->click();
+        MixedQuestion q;
+        q.direction = MixedQuestion::kToImproper;
+        q.whole = 2;
+        q.numer = 3;
+        q.denom = 4;
+        form->showQuestion(q);
+        form->cmdhint->click();
+        return form->Label20;
+    }) << QStringLiteral("2 times 4 is 8");
     QTest::newRow("ready for the Challenge") << Message([] {
         Y2fractions* form = halvesWithChosen(0);
         Module1::counter = Module1::questions - 1;

@@ -8,6 +8,7 @@
 #include "runtime/forms.h"
 #include "runtime/picturebox.h"
 #include "runtime/random.h"
+#include "runtime/spoken.h"
 #include "shell/module1.h"
 
 #include <QFrame>
@@ -251,14 +252,19 @@ void y5fract4::cmdhint_Click()
         if (Text1->isVisible())
             Text1->setFocus();
         Label18->setText(m_question.hintText());
-        Label18->show();
+        Spoken::showMessage(Label18);
     } else {
         if (Text3->isVisible())
             Text3->setFocus();
         Label18->setText(m_question.hintText());
-        Label18->show();
+        Spoken::showMessage(Label18);
         Label20->setText(m_question.productText());
-        Label20->show();
+        // "2 x 4 = 8" read out as a child says it.
+        Label20->setAccessibleName(tr("%1 times %2 is %3")
+                                       .arg(m_question.whole)
+                                       .arg(m_question.denom)
+                                       .arg(m_question.whole * m_question.denom));
+        Spoken::showMessage(Label20);
     }
 }
 

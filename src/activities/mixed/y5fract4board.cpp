@@ -255,6 +255,9 @@ void y5fract4::buildBoard()
     Label20 = label(Frame2, "Label20", QString(), Twips::font(kSerif, 16, true), kFeedbackInk, Qt::AlignCenter);
     Twips::place(Label20, kProductLeft, 0, kProductWidth, kBandHeight);
     Label20->hide();
+    // The hint and its product are spoken as they appear.
+    Spoken::markAsMessage(Label18);
+    Spoken::markAsMessage(Label20);
 
     // The end of a run; the ready message moves it over the picture.
     Label80 = label(this, "Label80", QStringLiteral("Click Start to have another go... or click Exit"),
