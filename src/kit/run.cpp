@@ -60,12 +60,13 @@ void Run::endOfRun()
     counter = 0;
     m_instruction->setText(QString());
     m_form.clearBoardAtEnd();
-    m_end->show();
     m_form.cmdcheck->setEnabled(false);
     m_form.cmdhint->setEnabled(false);
     if (challenge > 0) {
+        m_end->show();
         exit(); // the Challenge is won: back to the menu
     } else {
+        // Shown once, with the ready text, so a screen reader says only that.
         const QString run = QString::number(streak);
         ActivityForm::showReadyMessage(m_end, m_streakWithBlank && streak >= 0 ? QStringLiteral(" ") + run : run);
     }

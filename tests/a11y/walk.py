@@ -62,10 +62,14 @@ def pump():
 
 def wait_for(what, probe, deadline):
     """Asks probe() until it gives something, within the deadline."""
+    started = time.monotonic()
     while True:
         pump()
         found = probe()
         if found:
+            waited = time.monotonic() - started
+            if waited > 1:
+                print(f"({waited:.1f} s for {what})")
             return found
         if deadline.left() <= 0:
             raise Failed(f"timed out waiting for {what}")

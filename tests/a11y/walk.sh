@@ -14,7 +14,7 @@ readonly SKIP=77
 readonly LAUNCHER=/usr/libexec/at-spi-bus-launcher
 readonly PYTHON=/usr/bin/python3 # the system's, which has the AT-SPI bindings
 readonly HERE=$(cd "$(dirname "$0")" && pwd)
-readonly WALK_SECONDS=40
+readonly WALK_SECONDS=50
 readonly DISPLAY_SECONDS=10
 
 skip() {

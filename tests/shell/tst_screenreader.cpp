@@ -15,6 +15,7 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QtTest>
 #include <functional>
@@ -357,7 +358,20 @@ void TestScreenReader::messagesAreSpoken()
     // showing, not Qt's Alert event); the walk from outside hears it.
     QFETCH(Message, bring);
     QFETCH(QString, words);
+    // Each showing is news to a reader: the message shows once, with its words.
+    struct ShowCounter : QObject {
+        QList<QPointer<QObject>> shown; // a screen unloaded on the way leaves null behind
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() == QEvent::Show && !event->spontaneous()) // the window system's own do not reach a reader
+                shown << watched;
+            return false;
+        }
+    } counter;
+    qApp->installEventFilter(&counter);
     QLabel* label = bring();
+    qApp->removeEventFilter(&counter);
+    QCOMPARE(counter.shown.count(label), 1);
     QVERIFY(label->isVisible());
     QVERIFY(Spoken::isMessage(label));
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(label);
