@@ -23,6 +23,7 @@ PictureCell::PictureCell(QWidget* parent, int index)
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     connect(this, &QAbstractButton::toggled, this, &PictureCell::nameForReader);
+    setAccessibleDescription(tr("Click to choose this picture; click again to leave it out"));
 }
 
 void PictureCell::setPicture(const QString& assetPath, const QString& name, int shown)
