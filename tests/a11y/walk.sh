@@ -42,7 +42,7 @@ inner() {
     if [[ -n "$launcher_pid" ]]; then
       # The launcher's own children: the accessibility bus and the registry.
       local children
-      children=$(ps -o pid= --ppid "$launcher_pid" 2>/dev/null)
+      children=$(grep -l "^PPid:[[:space:]]*${launcher_pid}\$" /proc/[0-9]*/status 2>/dev/null | cut -d/ -f3)
       end "$launcher_pid"
       for child in $children; do end "$child"; done
     fi
