@@ -25,7 +25,9 @@ void Run::setLabels(QLabel* instruction, QLabel* message, QLabel* endOfRun)
     m_instruction = instruction;
     m_message = message;
     m_end = endOfRun;
-    // Praise, "Incorrect!" and the ready text are spoken as they appear.
+    // Each new question, the praise, "Incorrect!" and the ready text are
+    // spoken as they appear.
+    Spoken::markAsMessage(instruction);
     Spoken::markAsMessage(message);
     Spoken::markAsMessage(endOfRun);
 }

@@ -2,9 +2,9 @@
 """Plays Partitude from outside, as a screen reader user would, by accessible
 names alone: the title screen's OK, the year menu's "Year 2", the Year 2
 menu's "Halves and Quarters 1", Start, then one question of Halves and
-Quarters answered right (the question read from the instruction, the
-pictures counted by their names, the right number of them pressed), and the
-praise heard as an alert when it appears.
+Quarters answered right (the question heard as it appears and read from the
+instruction, the pictures counted by their names, the right number of them
+pressed), and the praise heard as an alert when it appears.
 
 Runs inside a session whose accessibility bus is starting (see walk.sh):
 waits for the bus, switches accessibility on, starts the program and talks
@@ -217,6 +217,7 @@ def main():
         press(find_one(app, "Year 2", Atspi.Role.PUSH_BUTTON, deadline))
         press(find_one(app, "Halves and Quarters 1", Atspi.Role.PUSH_BUTTON, deadline))
         press(find_one(app, "Start", Atspi.Role.PUSH_BUTTON, deadline))
+        wait_for("the question announced", lambda: [a for a in announced if a.startswith("Click on ")], deadline)
         answer_one_question(app, deadline)
 
         praise = wait_for("the praise, as an alert",

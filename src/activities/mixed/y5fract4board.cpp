@@ -255,7 +255,8 @@ void y5fract4::buildBoard()
     Label20 = label(Frame2, "Label20", QString(), Twips::font(kSerif, 16, true), kFeedbackInk, Qt::AlignCenter);
     Twips::place(Label20, kProductLeft, 0, kProductWidth, kBandHeight);
     Label20->hide();
-    // The hint and its product are spoken as they appear.
+    // The typing instruction, the hint and its product are spoken as they appear.
+    Spoken::markAsMessage(Label5);
     Spoken::markAsMessage(Label18);
     Spoken::markAsMessage(Label20);
 
