@@ -15,6 +15,17 @@ QString Question::picname() const
     return setName(set);
 }
 
+QString Question::onePictureName() const
+{
+    // One of each set, in the sets' order.
+    static const char* const kOne[kSetCount] = {
+        QT_TRANSLATE_NOOP("Halves", "holly leaf"), QT_TRANSLATE_NOOP("Halves", "duck"),
+        QT_TRANSLATE_NOOP("Halves", "sun"),        QT_TRANSLATE_NOOP("Halves", "dinosaur"),
+        QT_TRANSLATE_NOOP("Halves", "spider"),     QT_TRANSLATE_NOOP("Halves", "gorilla"),
+    };
+    return set >= 1 && set <= kSetCount ? QCoreApplication::translate("Halves", kOne[set - 1]) : QString();
+}
+
 QString Question::pictureFile() const
 {
     return set >= 1 && set <= kSetCount ? QString::fromLatin1(kPictureSets[set - 1].file) : QString();

@@ -45,6 +45,8 @@ struct Question {
     int target = 0;  // pictures to pick: howmany / parts, 1..8
 
     QString picname() const;
+    // One picture of the set, as a screen reader names it: "duck".
+    QString onePictureName() const;
     QString pictureFile() const;
     // "Click on one half of the ducks"
     QString instruction() const;

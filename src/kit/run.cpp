@@ -4,6 +4,7 @@
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"
 #include "runtime/random.h"
+#include "runtime/spoken.h"
 #include "shell/activityform.h"
 #include "shell/module1.h"
 #include "worksheets/printforms.h"
@@ -24,6 +25,11 @@ void Run::setLabels(QLabel* instruction, QLabel* message, QLabel* endOfRun)
     m_instruction = instruction;
     m_message = message;
     m_end = endOfRun;
+    // Each new question, the praise, "Incorrect!" and the ready text are
+    // spoken as they appear.
+    Spoken::markAsMessage(instruction);
+    Spoken::markAsMessage(message);
+    Spoken::markAsMessage(endOfRun);
 }
 
 void Run::begin()
@@ -56,12 +62,13 @@ void Run::endOfRun()
     counter = 0;
     m_instruction->setText(QString());
     m_form.clearBoardAtEnd();
-    m_end->show();
     m_form.cmdcheck->setEnabled(false);
     m_form.cmdhint->setEnabled(false);
     if (challenge > 0) {
+        m_end->show();
         exit(); // the Challenge is won: back to the menu
     } else {
+        // Shown once, with the ready text, so a screen reader says only that.
         const QString run = QString::number(streak);
         ActivityForm::showReadyMessage(m_end, m_streakWithBlank && streak >= 0 ? QStringLiteral(" ") + run : run);
     }
@@ -99,7 +106,7 @@ void Run::showMessage(const QString& text)
 {
     m_message->setText(text);
     m_instruction->hide();
-    m_message->show();
+    Spoken::showMessage(m_message);
 }
 
 void Run::showInstruction()

@@ -73,9 +73,11 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
 
     // Left: the logo; the way back goes under it, made last.
     Picture1->setAutoSize(true);
+    Picture1->setAccessibleName(Logo::spokenName());
     Picture1->setBackColour(kBack);
     Picture1->load(Logo::frameFile(design.logo, Module1::logoframe));
     Picture2->setAutoSize(true);
+    Picture2->setAccessibleName(Logo::publisherSpokenName());
     Picture2->setBackColour(kBack);
     const bool large = design.logo == Logo::Frames::Large;
     Twips::move(Picture1, large ? kLeftColumn + 600 : kLeftColumn + 900, kRowsTop);

@@ -27,6 +27,7 @@ Comingsoon::Comingsoon()
     setBackColour(Module1::kActivityBack);
 
     Picture1->setAutoSize(true);
+    Picture1->setAccessibleName(Logo::spokenName());
     Picture1->setBackColour(Module1::kActivityBack);
     Picture1->load(Logo::frameFile(Logo::Frames::Large, 0));
     Twips::move(Picture1, (kInsideWidth - Twips::fromPixels(Picture1->width())) / 2, 240);

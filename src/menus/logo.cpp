@@ -1,6 +1,9 @@
 #include "logo.h"
 
 #include "shell/module1.h"
+#include "shell/publisher.h"
+
+#include <QCoreApplication>
 
 namespace Logo {
 
@@ -22,6 +25,16 @@ QString advance(Frames frames)
 QString bitmapFile(Frames frames)
 {
     return frames == Frames::Large ? QStringLiteral("bmp\\morvane2.bmp") : QStringLiteral("bmp\\morvane3.bmp");
+}
+
+QString spokenName()
+{
+    return QCoreApplication::translate("Logo", "Partitude logo");
+}
+
+QString publisherSpokenName()
+{
+    return QCoreApplication::translate("Logo", "%1 logo").arg(Publisher::kName);
 }
 
 } // namespace Logo

@@ -23,4 +23,9 @@ QString advance(Frames frames);
 // The publisher's logo bitmaps that go with each size.
 QString bitmapFile(Frames frames);
 
+// What a screen reader calls the animated logo ("Partitude logo") and the
+// publisher's logo beside it.
+QString spokenName();
+QString publisherSpokenName();
+
 } // namespace Logo

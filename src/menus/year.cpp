@@ -90,9 +90,11 @@ Year::Year()
 
     // Left: the logo and the publisher.
     Picture1->setAutoSize(true);
+    Picture1->setAccessibleName(Logo::spokenName());
     Picture1->load(Logo::frameFile(Logo::Frames::Large, Module1::logoframe));
     Twips::move(Picture1, kLeftColumn + 600, kRowTop);
     Picture2->setAutoSize(true);
+    Picture2->setAccessibleName(Logo::publisherSpokenName());
     Twips::move(Picture2, kLeftColumn, 3480);
     Label2->setWordWrap(true);
     Twips::place(Label2, kLeftColumn, 4620, 3000, 300);

@@ -6,6 +6,7 @@
 #include "runtime/forms.h"
 #include "runtime/picturebox.h"
 #include "runtime/random.h"
+#include "runtime/spoken.h"
 #include "runtime/twips.h"
 #include "shell/module1.h"
 
@@ -29,6 +30,7 @@ QLabel* messageLabel(QWidget* parent, const char* name, const QString& text, int
     label->setAlignment(Qt::AlignCenter);
     label->setStyleSheet(QStringLiteral("color: white;"));
     Twips::place(label, 240, top, Reward::kWidthTwips - 480, 1500);
+    Spoken::markAsMessage(label); // spoken as the panel appears
     return label;
 }
 } // namespace
@@ -47,6 +49,7 @@ Reward::Reward()
     setScaleSize(kWidthTwips, kHeightTwips);
     Twips::place(Image2, 0, 0, kWidthTwips, kHeightTwips);
     Image2->lower();
+    Image2->setAccessibleName(tr("stars"));
     Image2->hide();
     connect(Timer1, &QTimer::timeout, this, &Reward::Timer1_Timer);
     connect(Timer2, &QTimer::timeout, this, &Reward::Timer2_Timer);

@@ -54,6 +54,7 @@ Welldone::Welldone()
     Twips::place(Label1, 240, 120, kInside - 480, 840);
     // Before a Challenge the star stands still.
     Picture1->setAutoSize(true);
+    Picture1->setAccessibleName(tr("a picture to celebrate"));
     Picture1->load(celebrationFrameFile(kCelebrations[0], 0));
     Twips::move(Picture1, (kInside - Twips::fromPixels(Picture1->width())) / 2, 1020);
 

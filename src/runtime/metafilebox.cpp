@@ -1,6 +1,7 @@
 #include "metafilebox.h"
 
 #include "pictures.h"
+#include "spoken.h"
 
 #include <QPainter>
 
@@ -8,6 +9,7 @@ MetafileBox::MetafileBox(QWidget* parent, const QString& name)
     : QWidget(parent)
 {
     setObjectName(name);
+    Spoken::markAsPicture(this);
 }
 
 void MetafileBox::load(const QString& assetPath)

@@ -1,6 +1,7 @@
 #include "picturebox.h"
 
 #include "pictures.h"
+#include "spoken.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -9,6 +10,7 @@ PictureBox::PictureBox(QWidget* parent, const QString& name)
     : QWidget(parent)
 {
     setObjectName(name);
+    Spoken::markAsPicture(this);
 }
 
 void PictureBox::load(const QString& assetPath)

@@ -4,6 +4,7 @@
 #include "captionbelowicon.h"
 #include "kit/run.h"
 #include "module1.h"
+#include "runtime/spoken.h"
 #include "runtime/twips.h"
 
 #include <QFrame>
@@ -68,6 +69,7 @@ ActivityForm::ActivityForm(const QString& name, QWidget* parent)
     , m_run(new Run(*this))
 {
     Image2->setAutoSize(true);
+    Image2->setAccessibleName(tr("your reward picture"));
     Image2->hide();
     // The design captions; setupform renames the print button.
     cmdprint->setText(tr("Print WorkSheet"));
@@ -156,7 +158,7 @@ void ActivityForm::showReadyMessage(QLabel* label, const QString& streakText)
     label->hide();
     Twips::place(label, kReadyLeft, kReadyTop, kReadyWidth, kReadyHeight);
     label->setText(readyText(streakText));
-    label->show();
+    Spoken::showMessage(label);
 }
 
 QLabel* wordLabel(QWidget* parent, const QString& name, const QString& text, double points, const QColor& ink)

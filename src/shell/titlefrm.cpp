@@ -74,6 +74,7 @@ Titlefrm::Titlefrm()
     ink.setColor(QPalette::WindowText, Module1::kPanelInk);
     Label4->setPalette(ink);
 
+    Picture1->setAccessibleName(tr("Partitude title picture"));
     Picture1->setGeometry(Twips::toPixels(480), Twips::toPixels(840), kFrameSidePx, kFrameSidePx);
     Twips::place(Command1, 4800, 5280, 1860, 660);
     Twips::place(Command2, 6960, 5280, 1860, 660);

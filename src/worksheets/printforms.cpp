@@ -59,6 +59,7 @@ WorksheetForm::WorksheetForm(const Worksheets::DesignedSheet& sheet)
     setWindowTitle(QStringLiteral("Form1"));
     setDesignSize(kWidth, kHeight);
     Twips::place(Picture1, 120, 120, kInside - 240, 7320);
+    Picture1->setAccessibleName(tr("the worksheet"));
     Command1->setObjectName(QStringLiteral("Command1"));
     Command1->setFont(Twips::font(QStringLiteral("Times New Roman"), 12, true));
     Twips::place(Command1, (kInside - 2400) / 2, 7560, 2400, 600);

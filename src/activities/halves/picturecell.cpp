@@ -22,17 +22,27 @@ PictureCell::PictureCell(QWidget* parent, int index)
     setCheckable(true);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
+    connect(this, &QAbstractButton::toggled, this, &PictureCell::nameForReader);
+    setAccessibleDescription(tr("Click to choose this picture; click again to leave it out"));
 }
 
-void PictureCell::setPicture(const QString& assetPath, const QString& name)
+void PictureCell::setPicture(const QString& assetPath, const QString& name, int shown)
 {
+    m_name = name;
+    m_shown = shown;
     if (assetPath != m_path) {
         m_path = assetPath;
         m_picture = assetPath.isEmpty() ? QPixmap() : Pictures::get(assetPath);
     }
-    setAccessibleName(name);
     setToolTip(name);
+    nameForReader();
     update();
+}
+
+void PictureCell::nameForReader()
+{
+    setAccessibleName(isChecked() ? tr("%1 %2 of %3, chosen").arg(m_name).arg(m_index + 1).arg(m_shown)
+                                  : tr("%1 %2 of %3, not chosen").arg(m_name).arg(m_index + 1).arg(m_shown));
 }
 
 QSize PictureCell::sizeHint() const

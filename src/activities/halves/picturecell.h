@@ -21,8 +21,9 @@ public:
     bool isSelected() const { return isChecked(); }
     void setSelected(bool on) { setChecked(on); }
 
-    // The picture and the name a screen reader gives it ("ducks").
-    void setPicture(const QString& assetPath, const QString& name);
+    // The picture, what it shows ("duck", the tool tip) and how many cells
+    // show it: a screen reader says "duck 3 of 12, chosen".
+    void setPicture(const QString& assetPath, const QString& name, int shown);
     QString picturePath() const { return m_path; }
 
     QSize sizeHint() const override;
@@ -36,7 +37,11 @@ protected:
     void nextCheckState() override {}
 
 private:
+    void nameForReader();
+
     int m_index;
+    int m_shown = 0;
+    QString m_name;
     QString m_path;
     QPixmap m_picture;
 };

@@ -183,7 +183,7 @@ void Y2fractions::newquestion()
     (question.parts == 2 ? Timer5 : Timer6)->setEnabled(true);
 
     for (int i = 0; i < question.howmany; ++i) {
-        Image1[i]->setPicture(question.pictureFile(), question.picname());
+        Image1[i]->setPicture(question.pictureFile(), question.onePictureName(), question.howmany);
         Image1[i]->show();
     }
     switchon();

@@ -1,12 +1,14 @@
 #include "y5fract4.h"
 
 #include "kit/parts/answerbox.h"
+#include "fractions/fraction.h"
 #include "kit/run.h"
 #include "rewards/grey.h"
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"
 #include "runtime/picturebox.h"
 #include "runtime/random.h"
+#include "runtime/spoken.h"
 #include "shell/module1.h"
 
 #include <QCoreApplication>
@@ -105,7 +107,12 @@ void y5fract4::newquestion()
 {
     setEnabled(true);
     Random::Randomize();
-    m_question = MixedQuestion::draw(Random::program());
+    showQuestion(MixedQuestion::draw(Random::program()));
+}
+
+void y5fract4::showQuestion(const MixedQuestion& question)
+{
+    m_question = question;
     m_answertext = m_question.answerText();
     if (m_question.direction == MixedQuestion::kToMixed) {
         Label1->setText(tr("Change to a mixed number..."));
@@ -122,6 +129,8 @@ void y5fract4::newquestion()
         Picture2->show();
         Label7->setText(QString::number(m_question.improperNumerator()));
         Label9->setText(QString::number(m_question.denom));
+        // A reader hears the stacked numbers as the fraction they make.
+        Picture2->setAccessibleName(tr("%1 equals").arg(Fractions::words(m_question.improperNumerator(), m_question.denom)));
         Text1->setFocus();
     } else {
         Label1->setText(tr("Change to an improper fraction..."));
@@ -138,6 +147,9 @@ void y5fract4::newquestion()
         Label19->setText(QString::number(m_question.whole));
         Label15->setText(QString::number(m_question.denom));
         Label16->setText(QString::number(m_question.numer));
+        Picture3->setAccessibleName(tr("%1 and %2 equals")
+                                        .arg(Fractions::numberWord(m_question.whole),
+                                             Fractions::words(m_question.numer, m_question.denom)));
         Text3->setFocus();
     }
 }
@@ -151,6 +163,7 @@ bool y5fract4::enter(QLineEdit* box, QLabel* label)
         return false;
     }
     label->setText(box->text());
+    label->setAccessibleName(tr("%1, %2").arg(box->accessibleName(), box->text())); // "top number, 3"
     label->show();
     box->hide();
     return true;
@@ -240,14 +253,19 @@ void y5fract4::cmdhint_Click()
         if (Text1->isVisible())
             Text1->setFocus();
         Label18->setText(m_question.hintText());
-        Label18->show();
+        Spoken::showMessage(Label18);
     } else {
         if (Text3->isVisible())
             Text3->setFocus();
         Label18->setText(m_question.hintText());
-        Label18->show();
+        Spoken::showMessage(Label18);
         Label20->setText(m_question.productText());
-        Label20->show();
+        // "2 x 4 = 8" read out as a child says it.
+        Label20->setAccessibleName(tr("%1 times %2 is %3")
+                                       .arg(m_question.whole)
+                                       .arg(m_question.denom)
+                                       .arg(m_question.whole * m_question.denom));
+        Spoken::showMessage(Label20);
     }
 }
 

@@ -75,6 +75,10 @@ public:
     const MixedQuestion& question() const { return m_question; }
     QString answertext() const { return m_answertext; }
 
+    // Puts this question on the board (newquestion() draws one and calls
+    // this; tests give their own).
+    void showQuestion(const MixedQuestion& question);
+
     void clearBoardAtEnd() override;
     QRect boardArea() const override;
 

@@ -7,6 +7,7 @@
 #include "kit/parts/answerbox.h"
 #include "runtime/formtimer.h"
 #include "runtime/picturebox.h"
+#include "runtime/spoken.h"
 #include "runtime/twips.h"
 #include "shell/module1.h"
 
@@ -218,6 +219,13 @@ void y5fract4::buildBoard()
     Label14 = number(Picture3, "Label14", answer, kDenominatorTop);
     Picture2->hide();
     Picture3->hide();
+    // Each panel is read as one sentence in words, named with each question;
+    // its loose numbers and bars are left out, its boxes and answers kept in.
+    for (QFrame* p : {Picture2, Picture3})
+        Spoken::readAsOne(p);
+    for (QWidget* w : std::initializer_list<QWidget*>{Label7, Line1, Label9, Label11, Line2, Label19, Label16, Line3,
+                                                        Label15, Label13, Line4})
+        Spoken::partOfGroupName(w);
 
     // Each answer box lies over the label that replaces it.
     // Each is named for the number it holds, as a screen reader says it.
@@ -246,6 +254,10 @@ void y5fract4::buildBoard()
     Label20 = label(Frame2, "Label20", QString(), Twips::font(kSerif, 16, true), kFeedbackInk, Qt::AlignCenter);
     Twips::place(Label20, kProductLeft, 0, kProductWidth, kBandHeight);
     Label20->hide();
+    // The typing instruction, the hint and its product are spoken as they appear.
+    Spoken::markAsMessage(Label5);
+    Spoken::markAsMessage(Label18);
+    Spoken::markAsMessage(Label20);
 
     // The end of a run; the ready message moves it over the picture.
     Label80 = label(this, "Label80", tr("Click Start to have another go... or click Exit"),

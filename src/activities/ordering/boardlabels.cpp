@@ -40,6 +40,7 @@ ArrowLabel::ArrowLabel(QWidget* parent, const QString& name, Direction direction
     , m_colour(colour)
 {
     setObjectName(name);
+    setAccessibleName(direction == Direction::Down ? tr("an arrow pointing down") : tr("an arrow pointing right"));
 }
 
 void ArrowLabel::paintEvent(QPaintEvent*)

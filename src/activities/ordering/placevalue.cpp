@@ -31,6 +31,8 @@ PlaceValueHeads::PlaceValueHeads(QWidget* parent, const QString& name)
     : QWidget(parent)
 {
     setObjectName(name);
+    // The heads are stacked fractions: a reader hears them in words.
+    setAccessibleName(tr("Column heads: units, tenths, hundredths, thousandths"));
 }
 
 void PlaceValueHeads::paintEvent(QPaintEvent*)

@@ -153,7 +153,9 @@ void TestY2fractions::screenBoardAndPrint()
     QVERIFY(!form->Timer4->isEnabled() && form->Label2->text().isEmpty());
     QCOMPARE(cell->property("Appearance").toInt() + cell->property("BorderStyle").toInt(), 2);
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(cell);
-    QCOMPARE(spoken->text(QAccessible::Name), form->question.picname());
+    QCOMPARE(spoken->text(QAccessible::Name), QStringLiteral("%1 2 of %2, chosen")
+                                                  .arg(form->question.onePictureName())
+                                                  .arg(form->question.howmany));
     QVERIFY(spoken->state().checkable && spoken->state().checked);
     cell->click();
     QCOMPARE(cell->property("Appearance").toInt() + cell->property("BorderStyle").toInt(), 0);
