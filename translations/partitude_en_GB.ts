@@ -146,6 +146,10 @@
         <source>  You are now ready for the Challenge.  %1 correct answers on the run, with no hints. Click Start to take the Challenge.</source>
         <translation>  You are now ready for the Challenge.  %1 correct answers on the run, with no hints. Click Start to take the Challenge.</translation>
     </message>
+    <message>
+        <source>your reward picture</source>
+        <translation>your reward picture</translation>
+    </message>
 </context>
 <context>
     <name>ActivityMenu</name>
@@ -164,6 +168,17 @@
     <message>
         <source>Go back</source>
         <translation>Go back</translation>
+    </message>
+</context>
+<context>
+    <name>ArrowLabel</name>
+    <message>
+        <source>an arrow pointing down</source>
+        <translation>an arrow pointing down</translation>
+    </message>
+    <message>
+        <source>an arrow pointing right</source>
+        <translation>an arrow pointing right</translation>
     </message>
 </context>
 <context>
@@ -717,6 +732,30 @@ Click Goodbye and choose another one for now.</translation>
         <source>gorillas</source>
         <translation>gorillas</translation>
     </message>
+    <message>
+        <source>holly leaf</source>
+        <translation>holly leaf</translation>
+    </message>
+    <message>
+        <source>duck</source>
+        <translation>duck</translation>
+    </message>
+    <message>
+        <source>sun</source>
+        <translation>sun</translation>
+    </message>
+    <message>
+        <source>dinosaur</source>
+        <translation>dinosaur</translation>
+    </message>
+    <message>
+        <source>spider</source>
+        <translation>spider</translation>
+    </message>
+    <message>
+        <source>gorilla</source>
+        <translation>gorilla</translation>
+    </message>
 </context>
 <context>
     <name>HalvesOfNumbers</name>
@@ -826,6 +865,17 @@ Click Goodbye and choose another one for now.</translation>
     <message>
         <source>Not quite. %1</source>
         <translation>Not quite. %1</translation>
+    </message>
+</context>
+<context>
+    <name>Logo</name>
+    <message>
+        <source>Partitude logo</source>
+        <translation>Partitude logo</translation>
+    </message>
+    <message>
+        <source>%1 logo</source>
+        <translation>%1 logo</translation>
     </message>
 </context>
 <context>
@@ -994,6 +1044,21 @@ Click Goodbye and choose another one for now.</translation>
     </message>
 </context>
 <context>
+    <name>PictureCell</name>
+    <message>
+        <source>Click to choose this picture; click again to leave it out</source>
+        <translation>Click to choose this picture; click again to leave it out</translation>
+    </message>
+    <message>
+        <source>%1 %2 of %3, chosen</source>
+        <translation>%1 %2 of %3, chosen</translation>
+    </message>
+    <message>
+        <source>%1 %2 of %3, not chosen</source>
+        <translation>%1 %2 of %3, not chosen</translation>
+    </message>
+</context>
+<context>
     <name>PictureRows</name>
     <message numerus="yes">
         <source>%1 in %n group of %2</source>
@@ -1068,6 +1133,10 @@ Partitude looks for its pictures in the folder:
         <source>units</source>
         <translation>units</translation>
     </message>
+    <message>
+        <source>Column heads: units, tenths, hundredths, thousandths</source>
+        <translation>Column heads: units, tenths, hundredths, thousandths</translation>
+    </message>
 </context>
 <context>
     <name>Reward</name>
@@ -1078,6 +1147,10 @@ Partitude looks for its pictures in the folder:
     <message>
         <source>The Challenge will begin again.</source>
         <translation>The Challenge will begin again.</translation>
+    </message>
+    <message>
+        <source>stars</source>
+        <translation>stars</translation>
     </message>
 </context>
 <context>
@@ -1163,6 +1236,10 @@ Partitude looks for its pictures in the folder:
         <source>Close Partitude</source>
         <translation>Close Partitude</translation>
     </message>
+    <message>
+        <source>Partitude title picture</source>
+        <translation>Partitude title picture</translation>
+    </message>
 </context>
 <context>
     <name>Welldone</name>
@@ -1231,12 +1308,20 @@ Partitude looks for its pictures in the folder:
         <source>Printing has been cancelled.</source>
         <translation>Printing has been cancelled.</translation>
     </message>
+    <message>
+        <source>a picture to celebrate</source>
+        <translation>a picture to celebrate</translation>
+    </message>
 </context>
 <context>
     <name>WorksheetForm</name>
     <message>
         <source>Print a worksheet</source>
         <translation>Print a worksheet</translation>
+    </message>
+    <message>
+        <source>the worksheet</source>
+        <translation>the worksheet</translation>
     </message>
 </context>
 <context>
@@ -1519,6 +1604,22 @@ Partitude looks for its pictures in the folder:
     <message>
         <source>Click Start to have another go... or click Exit</source>
         <translation>Click Start to have another go... or click Exit</translation>
+    </message>
+    <message>
+        <source>%1 equals</source>
+        <translation>%1 equals</translation>
+    </message>
+    <message>
+        <source>%1 and %2 equals</source>
+        <translation>%1 and %2 equals</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 times %2 is %3</source>
+        <translation>%1 times %2 is %3</translation>
     </message>
 </context>
 </TS>

@@ -146,6 +146,10 @@
         <source>  You are now ready for the Challenge.  %1 correct answers on the run, with no hints. Click Start to take the Challenge.</source>
         <translation>  Tu es prêt pour le Défi.  %1 bonnes réponses d&apos;affilée, sans indice. Clique sur Commencer pour relever le Défi.</translation>
     </message>
+    <message>
+        <source>your reward picture</source>
+        <translation>ton image de récompense</translation>
+    </message>
 </context>
 <context>
     <name>ActivityMenu</name>
@@ -164,6 +168,17 @@
     <message>
         <source>Go back</source>
         <translation>Revenir en arrière</translation>
+    </message>
+</context>
+<context>
+    <name>ArrowLabel</name>
+    <message>
+        <source>an arrow pointing down</source>
+        <translation>une flèche vers le bas</translation>
+    </message>
+    <message>
+        <source>an arrow pointing right</source>
+        <translation>une flèche vers la droite</translation>
     </message>
 </context>
 <context>
@@ -717,6 +732,30 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
         <source>gorillas</source>
         <translation>gorilles</translation>
     </message>
+    <message>
+        <source>holly leaf</source>
+        <translation>feuille de houx</translation>
+    </message>
+    <message>
+        <source>duck</source>
+        <translation>canard</translation>
+    </message>
+    <message>
+        <source>sun</source>
+        <translation>soleil</translation>
+    </message>
+    <message>
+        <source>dinosaur</source>
+        <translation>dinosaure</translation>
+    </message>
+    <message>
+        <source>spider</source>
+        <translation>araignée</translation>
+    </message>
+    <message>
+        <source>gorilla</source>
+        <translation>gorille</translation>
+    </message>
 </context>
 <context>
     <name>HalvesOfNumbers</name>
@@ -826,6 +865,17 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <message>
         <source>Not quite. %1</source>
         <translation>Pas tout à fait. %1</translation>
+    </message>
+</context>
+<context>
+    <name>Logo</name>
+    <message>
+        <source>Partitude logo</source>
+        <translation>logo de Partitude</translation>
+    </message>
+    <message>
+        <source>%1 logo</source>
+        <translation>logo de %1</translation>
     </message>
 </context>
 <context>
@@ -994,6 +1044,21 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     </message>
 </context>
 <context>
+    <name>PictureCell</name>
+    <message>
+        <source>Click to choose this picture; click again to leave it out</source>
+        <translation>Clique pour choisir cette image ; clique encore pour la retirer</translation>
+    </message>
+    <message>
+        <source>%1 %2 of %3, chosen</source>
+        <translation>%1 %2 sur %3, dans ton choix</translation>
+    </message>
+    <message>
+        <source>%1 %2 of %3, not chosen</source>
+        <translation>%1 %2 sur %3, pas dans ton choix</translation>
+    </message>
+</context>
+<context>
     <name>PictureRows</name>
     <message numerus="yes">
         <source>%1 in %n group of %2</source>
@@ -1068,6 +1133,10 @@ Partitude cherche ses images dans le dossier&#xa0;:
         <source>units</source>
         <translation>unités</translation>
     </message>
+    <message>
+        <source>Column heads: units, tenths, hundredths, thousandths</source>
+        <translation>Titres des colonnes : unités, dixièmes, centièmes, millièmes</translation>
+    </message>
 </context>
 <context>
     <name>Reward</name>
@@ -1078,6 +1147,10 @@ Partitude cherche ses images dans le dossier&#xa0;:
     <message>
         <source>The Challenge will begin again.</source>
         <translation>Le Défi va recommencer.</translation>
+    </message>
+    <message>
+        <source>stars</source>
+        <translation>étoiles</translation>
     </message>
 </context>
 <context>
@@ -1163,6 +1236,10 @@ Partitude cherche ses images dans le dossier&#xa0;:
         <source>Close Partitude</source>
         <translation>Fermer Partitude</translation>
     </message>
+    <message>
+        <source>Partitude title picture</source>
+        <translation>image titre de Partitude</translation>
+    </message>
 </context>
 <context>
     <name>Welldone</name>
@@ -1231,12 +1308,20 @@ Partitude cherche ses images dans le dossier&#xa0;:
         <source>Printing has been cancelled.</source>
         <translation>L&apos;impression a été annulée.</translation>
     </message>
+    <message>
+        <source>a picture to celebrate</source>
+        <translation>une image pour fêter ça</translation>
+    </message>
 </context>
 <context>
     <name>WorksheetForm</name>
     <message>
         <source>Print a worksheet</source>
         <translation>Imprimer une fiche</translation>
+    </message>
+    <message>
+        <source>the worksheet</source>
+        <translation>la fiche d&apos;exercices</translation>
     </message>
 </context>
 <context>
@@ -1519,6 +1604,22 @@ Partitude cherche ses images dans le dossier&#xa0;:
     <message>
         <source>Click Start to have another go... or click Exit</source>
         <translation>Clique sur Commencer pour rejouer... ou clique sur Sortir</translation>
+    </message>
+    <message>
+        <source>%1 equals</source>
+        <translation>%1 est égal à</translation>
+    </message>
+    <message>
+        <source>%1 and %2 equals</source>
+        <translation>%1 et %2 est égal à</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 times %2 is %3</source>
+        <translation>%1 fois %2 font %3</translation>
     </message>
 </context>
 </TS>
