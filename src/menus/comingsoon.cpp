@@ -72,7 +72,7 @@ void Comingsoon::cmdexit_Click()
     Forms::showAndUnload(m_menu, this);
 }
 
-void Comingsoon::closeBoxPressed()
+void Comingsoon::wayBack()
 {
     cmdexit_Click();
 }

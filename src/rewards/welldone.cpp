@@ -108,7 +108,7 @@ void Welldone::cmdexit_Click()
     Forms::unload(this);
 }
 
-void Welldone::closeBoxPressed()
+void Welldone::wayBack()
 {
     cmdexit_Click();
 }
