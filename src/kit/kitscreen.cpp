@@ -74,16 +74,6 @@ KitScreen::KitScreen(const QString& name, KitBoard* board)
     Frame2->hide();
     m_board->setAnswering(false);
 
-    // The keyboard goes from the board to Check, then the other buttons.
-    QWidget* previous = m_board;
-    for (QWidget* next : {static_cast<QWidget*>(cmdcheck), static_cast<QWidget*>(cmdhint),
-                          static_cast<QWidget*>(cmdstart), static_cast<QWidget*>(Option1),
-                          static_cast<QWidget*>(Option2), static_cast<QWidget*>(cmdprint),
-                          static_cast<QWidget*>(cmdexit)}) {
-        setTabOrder(previous, next);
-        previous = next;
-    }
-
     run().setLabels(Label1, Label2, Label8);
     run().setCertificateWords(titleOf(name));
 

@@ -172,7 +172,15 @@ void ActivityMenu::Command4_Click()
     Forms::showAndUnload(QString::fromLatin1(m_design.goodbye), this);
 }
 
-void ActivityMenu::closeBoxPressed()
+QList<QWidget*> ActivityMenu::tabOrder() const
+{
+    QList<QWidget*> order = Form::tabOrder();
+    order.removeOne(Command4);
+    order.append(Command4);
+    return order;
+}
+
+void ActivityMenu::wayBack()
 {
     Command4_Click();
 }

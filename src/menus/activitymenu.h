@@ -63,9 +63,13 @@ public slots:
     void Timer1_Timer();
     void Timer2_Timer();
 
+    // The activities are a list beside the logo's column: Tab reads the list
+    // top to bottom, then comes to Goodbye under the logo.
+    QList<QWidget*> tabOrder() const override;
+
 protected:
-    // The close box says Goodbye.
-    void closeBoxPressed() override;
+    // Escape and the close box say Goodbye.
+    void wayBack() override;
 
 private:
     void open(const Activities::Row& activity);

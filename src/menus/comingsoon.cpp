@@ -73,7 +73,7 @@ void Comingsoon::cmdexit_Click()
     Forms::showAndUnload(m_menu, this);
 }
 
-void Comingsoon::closeBoxPressed()
+void Comingsoon::wayBack()
 {
     cmdexit_Click();
 }

@@ -27,8 +27,8 @@ public slots:
     void cmdexit_Click();
 
 protected:
-    // The close box says Goodbye.
-    void closeBoxPressed() override;
+    // Escape and the close box say Goodbye.
+    void wayBack() override;
 
 private:
     QString m_menu;

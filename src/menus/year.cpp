@@ -106,9 +106,9 @@ Year::Year()
     Twips::place(Label3, kLeftColumn, 4920, 3000, 300);
 
     // Right: a year button beside each year's name. The buttons are made in
-    // the design's order; Tab and a screen reader take them top to bottom,
-    // and Year 2 has the focus when the menu opens.
-    QWidget* before = nullptr;
+    // the design's order; a screen reader takes them top to bottom, Tab reads
+    // the screen (the years, then Play Sound and the door), and Year 2, the
+    // first, has the focus when the menu opens.
     Frame1->setObjectName(QStringLiteral("Frame1"));
     Frame1->setFrameShape(QFrame::Box);
     Frame1->setStyleSheet(QStringLiteral("QFrame#Frame1 { border: 2px solid rgba(255, 255, 255, 150); border-radius: 10px; }"));
@@ -120,9 +120,6 @@ Year::Year()
         const Choice& choice = kChoices[i];
         connect(button, &QPushButton::clicked, this, [this, &choice] { choose(choice); });
         button->raise();
-        if (before)
-            setTabOrder(before, button);
-        before = button;
 
         QLabel* year = MenuLook::label(Frame1, QStringLiteral("Label12(%1)").arg(i),
                              tr(kChoices[i].yearLabel),
@@ -137,7 +134,6 @@ Year::Year()
     Command4->setAccessibleDescription(tr("Go back to the first screen"));
     Twips::place(Command4, 8160, 5520, 1080, 840);
     Command4->raise();
-    setTabOrder(before, Command4);
 
     // The sound switch, under the publisher's lines.
     Check1 = new QCheckBox(tr("  Play Sound"), this);
@@ -205,7 +201,7 @@ void Year::Command4_Click()
     Forms::show<Titlefrm>()->Command2->setEnabled(true);
 }
 
-void Year::closeBoxPressed()
+void Year::wayBack()
 {
     Command4_Click();
 }

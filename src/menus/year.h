@@ -59,8 +59,8 @@ public slots:
     void Check1_Click();
 
 protected:
-    // The close box is the door: back to the title screen.
-    void closeBoxPressed() override;
+    // Escape and the close box are the door: back to the title screen.
+    void wayBack() override;
 
 private:
     // A year button's click: the label and run length, then its menu.

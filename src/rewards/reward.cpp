@@ -127,7 +127,7 @@ void Reward::Timer2_Timer()
     Timer2->setEnabled(false);
 }
 
-void Reward::closeBoxPressed()
+void Reward::wayBack()
 {
     Forms::unload(this);
 }

@@ -42,6 +42,6 @@ public slots:
 
 protected:
     // The panel has no close box; should the window system close it all the
-    // same, it goes as its timers would take it away.
-    void closeBoxPressed() override;
+    // same, or Escape be pressed, it goes as its timers would take it away.
+    void wayBack() override;
 };

@@ -111,7 +111,7 @@ void Welldone::cmdexit_Click()
     Forms::unload(this);
 }
 
-void Welldone::closeBoxPressed()
+void Welldone::wayBack()
 {
     cmdexit_Click();
 }

@@ -51,7 +51,8 @@ public slots:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void closeBoxPressed() override;
+    // Escape and the close box leave as the door does.
+    void wayBack() override;
 
 private:
     void printcertificate();

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 class QAbstractButton;
+class FocusRing;
 class FormTimer;
 
 class Form : public QWidget {
@@ -44,11 +45,27 @@ public:
     // The inside width of a full screen (its ScaleWidth).
     static constexpr int kScreenScaleWidthTwips = kScreenWidthTwips - kBorderWidthTwips;
 
+    // The controls in the order Tab takes them: reading order (see
+    // runtime/keyboard). A screen whose design reads otherwise changes it.
+    virtual QList<QWidget*> tabOrder() const;
+    // The control the keyboard starts on: by default the first in tabOrder().
+    virtual QWidget* firstControl() const;
+    // After the load steps: Tab in tabOrder(), and the focus on firstControl()
+    // unless the load steps put it somewhere.
+    void prepareKeyboard();
+
 protected:
-    // What the window's close box does; by default it ends the program, as
-    // the title screen's Exit does.
+    // The screen's way back (Goodbye, Exit): what Escape does. By default
+    // there is none.
+    virtual void wayBack() {}
+    // What the window's close box does; by default the way back.
     virtual void closeBoxPressed();
     void closeEvent(QCloseEvent* event) override;
+    // Escape takes the way back; Return presses the focused button (Space
+    // does by itself). Keys a control keeps for itself never come here.
+    void keyPressEvent(QKeyEvent* event) override;
+    // Tab follows tabOrder() as the screen stands now.
+    bool focusNextPrevChild(bool next) override;
 
     FormTimer* addTimer(const QString& name, int intervalMs);
 
@@ -57,6 +74,7 @@ private:
     int m_designHeight = 0;
     QColor m_back;
     QString m_iconPath;
+    FocusRing* m_focusRing;
 };
 
 // Gives a button its picture (an icon above its caption, as on the designed

@@ -79,7 +79,10 @@ Form* load(const QString& name)
     g_ended = false;
     runLoadSteps(form);
     // The load steps may have unloaded the screen again.
-    return find(name);
+    Form* loadedForm = find(name);
+    if (loadedForm)
+        loadedForm->prepareKeyboard();
+    return loadedForm;
 }
 
 Form* show(const QString& name)

@@ -84,7 +84,12 @@ ActivityForm::ActivityForm(const QString& name, QWidget* parent)
     raiseButtons();
 }
 
-void ActivityForm::closeBoxPressed()
+QWidget* ActivityForm::firstControl() const
+{
+    return cmdstart;
+}
+
+void ActivityForm::wayBack()
 {
     m_run->exit();
 }

@@ -70,9 +70,12 @@ public:
     static constexpr int kButtonWidth = 1455;
     static constexpr int kButtonHeight = 855;
 
+    // The keyboard starts on Start, not on Print at the head of the row.
+    QWidget* firstControl() const override;
+
 protected:
-    // The close box does what Exit does: back to the menu.
-    void closeBoxPressed() override;
+    // Escape and the close box do what Exit does: back to the menu.
+    void wayBack() override;
 
 private:
     Run* m_run;

@@ -124,7 +124,12 @@ void Form1::Command1_Click()
     Forms::showAndUnload(QStringLiteral("Year"), this);
 }
 
-void Form1::closeBoxPressed()
+QWidget* Form1::firstControl() const
+{
+    return Command1;
+}
+
+void Form1::wayBack()
 {
     Command1_Click();
 }

@@ -24,6 +24,9 @@ public:
     QLabel* Label3;
     QFrame* Frame2;
 
+    // The keyboard starts on OK: the choices shown are already the saved ones.
+    QWidget* firstControl() const override;
+
 public slots:
     void Form_Load();
     void Option1_Click();
@@ -32,9 +35,9 @@ public slots:
     void Command1_Click();
 
 protected:
-    // The close box is OK: the choices are already saved, and the program
-    // ends only from the title screen.
-    void closeBoxPressed() override;
+    // Escape and the close box are OK: the choices are already saved, and
+    // the program ends only from the title screen.
+    void wayBack() override;
 
 private:
     void chooseEdition(const QString& value);

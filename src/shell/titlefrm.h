@@ -36,6 +36,8 @@ public slots:
     void Command2_Click();
 
 protected:
+    // The close box ends the program as Exit does. Escape does nothing here
+    // (the screen has no way back), so no child leaves by accident.
     void closeBoxPressed() override;
 
 private:

@@ -76,7 +76,7 @@ void WorksheetForm::Command1_Click()
     printWorksheet();
 }
 
-void WorksheetForm::closeBoxPressed()
+void WorksheetForm::wayBack()
 {
     Forms::unload(this);
 }

@@ -45,7 +45,8 @@ public slots:
     bool printWorksheet();
 
 protected:
-    void closeBoxPressed() override;
+    // Escape and the close box put the worksheet away.
+    void wayBack() override;
 
 private:
     const Worksheets::DesignedSheet& m_sheet;

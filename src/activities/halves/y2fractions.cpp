@@ -77,14 +77,6 @@ Y2fractions::Y2fractions()
     Label8->hide();
     resetpics();
 
-    // The keyboard goes from Check through the pictures, then the other buttons.
-    QWidget* previous = cmdcheck;
-    for (QWidget* next : QList<QWidget*>{Image1.begin(), Image1.end()}
-                             + QList<QWidget*>{cmdhint, cmdstart, Option1, Option2, cmdprint, cmdexit}) {
-        setTabOrder(previous, next);
-        previous = next;
-    }
-
     run().setLabels(Label1, Label2, Label8);
     run().setCertificateWords(QCoreApplication::translate("Activities", "Halves and Quarters 2"));
 

@@ -67,6 +67,16 @@ y5fract4::y5fract4()
     connect(Timer7, &QTimer::timeout, this, &y5fract4::Timer7_Timer);
 }
 
+QList<QWidget*> y5fract4::tabOrder() const
+{
+    QList<QWidget*> order = ActivityForm::tabOrder();
+    if (order.contains(Text1) && order.contains(Text4)) {
+        order.removeOne(Text1);
+        order.insert(order.indexOf(Text4), Text1);
+    }
+    return order;
+}
+
 void y5fract4::Form_Load()
 {
     setupform(*this);

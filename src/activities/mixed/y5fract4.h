@@ -104,6 +104,10 @@ public:
     void Text4_KeyPress(int& KeyAscii);
     void Text5_KeyPress(int& KeyAscii);
 
+    // A mixed number reads whole number first, then its fraction: Tab comes
+    // to the whole number's box before the numerator's above it.
+    QList<QWidget*> tabOrder() const override;
+
 private:
     void buildBoard();
     void newquestion();

@@ -146,7 +146,7 @@ void orderhelp::cmdexit_Click()
     Forms::unload(this);
 }
 
-void orderhelp::closeBoxPressed()
+void orderhelp::wayBack()
 {
     cmdexit_Click();
 }

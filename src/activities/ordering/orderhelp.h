@@ -53,5 +53,6 @@ public slots:
     void cmdexit_Click();
 
 protected:
-    void closeBoxPressed() override;
+    // Escape and the close box close the help, as its Exit does.
+    void wayBack() override;
 };

@@ -161,14 +161,17 @@ void TestY2fractions::screenBoardAndPrint()
     QCOMPARE(cell->property("Appearance").toInt() + cell->property("BorderStyle").toInt(), 0);
     QVERIFY(!spoken->state().checked);
 
-    // Tab from Check reaches the first picture, Space chooses it, Enter checks.
+    // Tab from Exit, at the end of the button row, reaches the first picture,
+    // Space chooses it and Return on Check checks.
     QApplication::setActiveWindow(form);
-    form->cmdcheck->setFocus();
-    QTest::keyClick(form->cmdcheck, Qt::Key_Tab);
+    form->cmdexit->setFocus();
+    QTest::keyClick(form->cmdexit, Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), form->Image1[0]);
     QTest::keyClick(form->Image1[0], Qt::Key_Space);
     QCOMPARE(form->selectedCount(), 1);
     QTest::keyClick(form->Image1[0], Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget(), form->cmdexit);
+    form->cmdcheck->setFocus();
     QTest::keyClick(form->cmdcheck, Qt::Key_Return);
     QVERIFY(form->Label2->isVisible() && !form->cmdcheck->isEnabled());
     form->Image1[2]->click(); // a checked board no longer reacts
