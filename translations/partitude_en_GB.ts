@@ -249,6 +249,13 @@ Click Goodbye and choose another one for now.</translation>
     </message>
 </context>
 <context>
+    <name>FocusRing</name>
+    <message>
+        <source>Keyboard focus</source>
+        <translation>Keyboard focus</translation>
+    </message>
+</context>
+<context>
     <name>Form1</name>
     <message>
         <source>OK</source>

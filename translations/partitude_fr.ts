@@ -249,6 +249,13 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     </message>
 </context>
 <context>
+    <name>FocusRing</name>
+    <message>
+        <source>Keyboard focus</source>
+        <translation>Focus du clavier</translation>
+    </message>
+</context>
+<context>
     <name>Form1</name>
     <message>
         <source>OK</source>
@@ -1047,7 +1054,7 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <name>PictureCell</name>
     <message>
         <source>Click to choose this picture; click again to leave it out</source>
-        <translation>Clique pour choisir cette image ; clique encore pour la retirer</translation>
+        <translation>Clique pour choisir cette image&#xa0;; clique encore pour la retirer</translation>
     </message>
     <message>
         <source>%1 %2 of %3, chosen</source>
@@ -1135,7 +1142,7 @@ Partitude cherche ses images dans le dossier&#xa0;:
     </message>
     <message>
         <source>Column heads: units, tenths, hundredths, thousandths</source>
-        <translation>Titres des colonnes : unités, dixièmes, centièmes, millièmes</translation>
+        <translation>Titres des colonnes&#xa0;: unités, dixièmes, centièmes, millièmes</translation>
     </message>
 </context>
 <context>
