@@ -90,7 +90,7 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
         const int top = firstTop + i * pitch;
         auto* button = new QPushButton(this);
         button->setObjectName(QString::fromLatin1(activity.button));
-        button->setIconSize(QSize(28, 28));
+        button->setIconSize(Twips::scaledPixels(QSize(28, 28)));
         // The arrow shows no words; the activity's title is its tip and
         // the name a screen reader speaks.
         button->setToolTip(QString::fromLatin1(activity.title));
@@ -116,7 +116,7 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
     Command4 = new QPushButton(QStringLiteral("Goodbye"), this);
     Command4->setObjectName(QStringLiteral("Command4"));
     Command4->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
-    Command4->setIconSize(QSize(32, 32));
+    Command4->setIconSize(Twips::scaledPixels(QSize(32, 32)));
     Command4->setToolTip(QStringLiteral("Go back"));
     Twips::place(Command4, kLeftColumn, 5340, 2160, 780);
 
