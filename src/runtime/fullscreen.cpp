@@ -29,6 +29,7 @@ public:
         setAccessibleName(form->windowTitle().isEmpty() ? form->objectName() : form->windowTitle());
         setWindowTitle(form->windowTitle());
         setWindowIcon(form->windowIcon());
+        setWindowFlag(Qt::FramelessWindowHint);
         setFocusPolicy(Qt::NoFocus);
         setControlBackColour(this, form->backColour().isValid() ? form->backColour() : form->palette().color(QPalette::Window));
         form->installEventFilter(this);
@@ -40,10 +41,12 @@ public:
     // Puts this window over the display, and the screen over the middle of it.
     void cover()
     {
-        showFullScreen();
-        raise();
         const QScreen* screen = QGuiApplication::primaryScreen();
         const QRect area = screen ? screen->geometry() : ScreenFit::available();
+        // Placed by hand as well, for a display without a window manager.
+        setGeometry(area);
+        showFullScreen();
+        raise();
         QRect placed(QPoint(0, 0), m_form->size());
         placed.moveCenter(area.center());
         m_form->move(ScreenFit::keepInside(placed.topLeft(), placed.size(), area));

@@ -5,6 +5,7 @@
 #include "runtime/options.h"
 #include "runtime/pictures.h"
 #include "runtime/printer.h"
+#include "runtime/scaledstyle.h"
 #include "runtime/screenfit.h"
 #include "runtime/settingsfile.h"
 #include "runtime/twips.h"
@@ -50,6 +51,8 @@ void startProgram(const StartOptions& options)
     SettingsFile::setFolder(options.settingsFolder);
     PrintTarget::setPdfFolder(options.pdfFolder);
     Twips::setScale(options.scale > 0.0 ? options.scale : ScreenFit::pickScale(ScreenFit::available().size()));
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) && Twips::scale() != 1.0)
+        QApplication::setStyle(new ScaledStyle);
     FullScreen::setOn(options.fullScreen);
     FullScreen::installKey();
     registerScreens();
