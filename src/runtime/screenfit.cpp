@@ -16,6 +16,10 @@ QRect g_pretend;
 // A full screen's outer size in pixels at scale 1.
 constexpr double kScreenWidthPixels = double(Form::kScreenWidthTwips) / Twips::kPerPixel;
 constexpr double kScreenHeightPixels = double(Form::kScreenHeightTwips) / Twips::kPerPixel;
+// The tallest screen shown, the ordering help (outer height 7485 twips), is
+// a little taller than a full screen; it must fit as well.
+constexpr int kTallestScreenHeightTwips = 7500;
+constexpr double kTallestHeightPixels = double(kTallestScreenHeightTwips) / Twips::kPerPixel;
 
 // Below 1 the largest scale that still fits; rounding down keeps it fitting.
 double roundDown(double scale) { return std::floor(scale / kScaleStep + 1e-9) * kScaleStep; }
@@ -27,7 +31,7 @@ double pickScale(const QSize& available)
     if (available.width() <= 0 || available.height() <= 0)
         return 1.0;
     const double largestThatFits
-        = std::min(available.width() / kScreenWidthPixels, available.height() / kScreenHeightPixels);
+        = std::min(available.width() / kScreenWidthPixels, available.height() / kTallestHeightPixels);
     const double wanted = std::max(1.0, kFillHeight * available.height() / kScreenHeightPixels);
     return std::max(kScaleStep, roundDown(std::min(wanted, largestThatFits)));
 }
@@ -35,7 +39,7 @@ double pickScale(const QSize& available)
 bool fits(double scale, const QSize& available)
 {
     return scale > 0.0 && std::lround(kScreenWidthPixels * scale) <= available.width()
-        && std::lround(kScreenHeightPixels * scale) <= available.height();
+        && std::lround(kTallestHeightPixels * scale) <= available.height();
 }
 
 QRect available()
