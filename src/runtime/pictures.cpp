@@ -93,8 +93,8 @@ QIcon icon(const QString& assetPath)
     // Sized once for the scale, smoothly, so a button never stretches it.
     const QPixmap picture = get(assetPath);
     const qreal ratio = deviceRatio();
-    QPixmap sized = picture.scaled(Twips::scaledPixels(picture.deviceIndependentSize()) * ratio, Qt::KeepAspectRatio,
-                                   Qt::SmoothTransformation);
+    QPixmap sized = picture.scaled(Twips::scaledPixels(picture.deviceIndependentSize()) * ratio,
+                                   Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     sized.setDevicePixelRatio(ratio);
     return QIcon(sized);
 }

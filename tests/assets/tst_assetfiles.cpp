@@ -29,6 +29,8 @@ class TestAssetFiles : public QObject
 private slots:
     void stills_data();
     void stills();
+    void largeTwins_data();
+    void largeTwins();
     void animations_data();
     void animations();
     void harpSounds_data();
@@ -111,6 +113,34 @@ void TestAssetFiles::stills()
                              .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const double fromLarge = compare(large, image).mean, fromPlain = compare(filled(size, MenuLook::kBack), image).mean;
     QVERIFY2(fromLarge < fromPlain / 4, qPrintable(QStringLiteral("%1 against %2").arg(fromLarge).arg(fromPlain)));
+}
+
+void TestAssetFiles::largeTwins_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char *name : {"fraction", "trffc10a", "quest", "hand", "door2", "arw05rt"})
+        QTest::newRow(name) << QStringLiteral("ico/%1.ico").arg(QLatin1String(name));
+    QTest::newRow("print") << QStringLiteral("ico/print.bmp");
+    QTest::newRow("morvane2") << QStringLiteral("bmp/morvane2.bmp");
+    QTest::newRow("morvane3") << QStringLiteral("bmp/morvane3.bmp");
+}
+
+// A picture's twin, from which screens drawn larger than designed are
+// painted, is the same picture drawn twice the size, not a blown-up copy.
+void TestAssetFiles::largeTwins()
+{
+    QFETCH(QString, file);
+    const int dot = file.lastIndexOf(QLatin1Char('.'));
+    const QImage design = loadImage(assetPath(file)).convertToFormat(QImage::Format_ARGB32);
+    const QImage twin = loadImage(assetPath(file.left(dot) + QStringLiteral("@2x") + file.mid(dot)))
+                            .convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(twin.size(), design.size() * 2);
+    const QImage shrunk = twin.scaled(design.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const Difference same = compare(shrunk, design);
+    QVERIFY2(same.changed < design.width() * design.height() / 20, qPrintable(QString::number(same.changed)));
+    // Sharper than the design blown up: more detail survives in the twin.
+    const QImage blownUp = design.scaled(twin.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QVERIFY(compare(blownUp, twin, 8).changed > 0);
 }
 
 void TestAssetFiles::animations_data()
