@@ -3,7 +3,10 @@
 // behind follows its screen and passes its close box on.
 #include "runtime/form.h"
 #include "runtime/fullscreen.h"
+#include "runtime/options.h"
+#include "runtime/screenfit.h"
 #include "runtime/twips.h"
+#include "shell/startup.h"
 #include "testsupport.h"
 
 #include <QScreen>
@@ -20,6 +23,7 @@ private slots:
 
     void cleanup()
     {
+        ScreenFit::pretendAvailable(QRect());
         FullScreen::setOn(false);
         TestSupport::unloadAll();
         Twips::setScale(1.0);
@@ -120,6 +124,37 @@ private slots:
         QVERIFY(!FullScreen::hostOf(retry));
         FullScreen::setOn(false);
         QVERIFY(retry->windowFlags().testFlag(Qt::FramelessWindowHint));
+    }
+
+    // Start-up takes the scale asked for, or picks one for the display, and
+    // shows the title screen full screen when asked.
+    void startUp_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<double>("scale");
+        QTest::addColumn<bool>("full");
+        QTest::newRow("picked") << QStringList() << 1.7 << false;
+        QTest::newRow("asked for") << QStringList{QStringLiteral("--scale"), QStringLiteral("1.25")} << 1.25 << false;
+        QTest::newRow("full screen") << QStringList{QStringLiteral("--fullscreen")} << 1.7 << true;
+    }
+
+    void startUp()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(double, scale);
+        QFETCH(bool, full);
+        world.fresh();
+        ScreenFit::pretendAvailable(QRect(0, 0, 1920, 1040));
+        StartOptions options = parseArguments(QStringList{QStringLiteral("partitude")} + arguments);
+        options.assetFolder = QStringLiteral(PARTITUDE_TEST_ASSETS);
+        options.settingsFolder = world.settings->path();
+        startProgram(options);
+        QCOMPARE(Twips::scale(), scale);
+        Form* title = Forms::find(QStringLiteral("Titlefrm"));
+        QVERIFY(title && title->isVisible());
+        QCOMPARE(FullScreen::isOn(), full);
+        QCOMPARE(FullScreen::hostOf(title) != nullptr, full);
+        QCOMPARE(title->width(), Twips::toPixels(Form::kScreenWidthTwips - Form::kBorderWidthTwips));
     }
 
 private:
