@@ -123,6 +123,8 @@ void TestAssetFiles::largeTwins_data()
     QTest::newRow("print") << QStringLiteral("ico/print.bmp");
     QTest::newRow("morvane2") << QStringLiteral("bmp/morvane2.bmp");
     QTest::newRow("morvane3") << QStringLiteral("bmp/morvane3.bmp");
+    for (const char *file : {"leaf", "wb01747_", "wb01330_", "wb01742_", "wb01299_", "wb01746_"})
+        QTest::newRow(file) << QStringLiteral("gif/%1.gif").arg(QLatin1String(file));
 }
 
 // A picture's twin, from which screens drawn larger than designed are
