@@ -50,7 +50,7 @@ private slots:
         QTest::newRow("icon at 2") << QStringLiteral("ico\\door2.ico") << 2.0 << QSize(32, 32) << true;
         QTest::newRow("logo at 1.2") << QStringLiteral("bmp\\morvane2.bmp") << 1.2 << QSize(192, 72) << true;
         QTest::newRow("halves picture at 2") << QStringLiteral("gif\\leaf.gif") << 2.0 << QSize(60, 60) << true;
-        QTest::newRow("title frame without a twin at 2") << QStringLiteral("gif\\sphfra\\sphf0000.jpg") << 2.0 << QSize() << false;
+        QTest::newRow("title frame at 1.5") << QStringLiteral("gif\\sphfra\\sphf0000.jpg") << 1.5 << QSize(256, 256) << true;
         QTest::newRow("reward picture at 1.5") << QStringLiteral("jpg2\\cake00.jpg") << 1.5 << QSize() << false;
     }
 
