@@ -125,6 +125,10 @@ void TestAssetFiles::largeTwins_data()
     QTest::newRow("morvane3") << QStringLiteral("bmp/morvane3.bmp");
     QTest::newRow("title frame") << QStringLiteral("gif/sphfra/sphf0000.jpg");
     QTest::newRow("last title frame") << QStringLiteral("gif/sphfra/sphf0049.jpg");
+    QTest::newRow("reward picture") << QStringLiteral("jpg2/cake05.jpg");
+    QTest::newRow("tall reward picture") << QStringLiteral("jpg2/thermo20.jpg");
+    QTest::newRow("reward globe") << QStringLiteral("jpg2/earthc20.jpg");
+    QTest::newRow("stars") << QStringLiteral("reward/stars105.jpg");
     for (const char *file : {"leaf", "wb01747_", "wb01330_", "wb01742_", "wb01299_", "wb01746_"})
         QTest::newRow(file) << QStringLiteral("gif/%1.gif").arg(QLatin1String(file));
 }
