@@ -51,7 +51,8 @@ private slots:
         QTest::newRow("logo at 1.2") << QStringLiteral("bmp\\morvane2.bmp") << 1.2 << QSize(192, 72) << true;
         QTest::newRow("halves picture at 2") << QStringLiteral("gif\\leaf.gif") << 2.0 << QSize(60, 60) << true;
         QTest::newRow("title frame at 1.5") << QStringLiteral("gif\\sphfra\\sphf0000.jpg") << 1.5 << QSize(256, 256) << true;
-        QTest::newRow("reward picture at 1.5") << QStringLiteral("jpg2\\cake00.jpg") << 1.5 << QSize() << false;
+        QTest::newRow("certificate star without a twin at 2") << QStringLiteral("gif\\grstel\\grstel00.jpg") << 2.0 << QSize() << false;
+        QTest::newRow("reward picture at 1.5") << QStringLiteral("jpg2\\cake00.jpg") << 1.5 << QSize() << true;
     }
 
     void drawnAtTheScale()
