@@ -83,7 +83,10 @@ protected:
     {
         if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F11)
             return false;
-        toggle();
+        // Not while a message waits for an answer: the screens shown again
+        // would cover it.
+        if (!QApplication::activeModalWidget())
+            toggle();
         return true;
     }
 };
