@@ -9,6 +9,7 @@
 #include "shell/startup.h"
 #include "testsupport.h"
 
+#include <QDialog>
 #include <QScreen>
 #include <QtTest>
 
@@ -75,6 +76,14 @@ private slots:
         QVERIFY(!FullScreen::isOn());
         QVERIFY(!FullScreen::hostOf(year));
 
+        {
+            // Not while a message box waits for an answer.
+            QDialog message;
+            message.setModal(true);
+            message.show();
+            QTest::keyClick(year, Qt::Key_F11);
+            QVERIFY(!FullScreen::isOn());
+        }
         QTest::keyClick(year, Qt::Key_F11);
         QVERIFY(FullScreen::isOn());
         QWidget* host = FullScreen::hostOf(year);
