@@ -20,6 +20,7 @@ namespace {
 constexpr int kSide = 60;    // the picture's square, in pixels
 constexpr int kInside = 56;  // what is drawn fits in this, centred
 constexpr int kLarge = 480;  // the canvas it is drawn on first
+constexpr int kLargeTwin = 2; // how much larger the twin is drawn
 
 // The smallest rectangle holding every pixel that is at all solid.
 QRect drawnArea(const QImage &image)
@@ -39,8 +40,9 @@ QRect drawnArea(const QImage &image)
 // Draws large, trims, scales into the square and settles the edge: a pixel
 // at least half solid becomes solid, mixed with the tile colour; the rest
 // becomes clear. Empty when nothing was drawn (the font is missing).
-QImage finish(const std::function<void(QPainter &)> &draw)
+QImage finish(const std::function<void(QPainter &)> &draw, int enlarge = 1)
 {
+    const int side = kSide * enlarge, inside = kInside * enlarge;
     QImage large = clearCanvas(kLarge, kLarge);
     {
         QPainter painter(&large);
@@ -51,11 +53,11 @@ QImage finish(const std::function<void(QPainter &)> &draw)
     const QRect area = drawnArea(large);
     if (area.isEmpty())
         return QImage();
-    const QImage fitted = large.copy(area).scaled(kInside, kInside, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    const QImage fitted = large.copy(area).scaled(inside, inside, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 
-    QImage square = clearCanvas(kSide, kSide).convertToFormat(QImage::Format_ARGB32);
+    QImage square = clearCanvas(side, side).convertToFormat(QImage::Format_ARGB32);
     const QColor tile = Module1::kPanelPaper;
-    const int x0 = (kSide - fitted.width()) / 2, y0 = (kSide - fitted.height()) / 2;
+    const int x0 = (side - fitted.width()) / 2, y0 = (side - fitted.height()) / 2;
     for (int y = 0; y < fitted.height(); ++y)
         for (int x = 0; x < fitted.width(); ++x) {
             const QRgb c = fitted.pixel(x, y);
@@ -157,5 +159,9 @@ void drawHalvesPictures(AssetOutput &out)
             return;
         }
         out.saveGif(image, QString::fromLatin1(picture.file));
+        // The twin twice the size, for screens drawn larger than designed.
+        QString twin = QString::fromLatin1(picture.file);
+        twin.insert(twin.lastIndexOf(QLatin1Char('.')), QLatin1String("@2x"));
+        out.saveGif(finish(picture.draw, kLargeTwin), twin);
     }
 }

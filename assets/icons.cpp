@@ -32,16 +32,23 @@ QPainterPath rightArrow(double tail, double neck, double tip, double middle, dou
 constexpr int kIconSide = 32;
 constexpr int kDetail = 4;
 
-QImage drawIcon(const std::function<void(QPainter &)> &draw)
+// The program draws its screens larger than designed from a twin drawn this
+// many times larger, named with this suffix ("ico/door2@2x.ico").
+constexpr int kLargeTwin = 2;
+const QLatin1String kLargeTwinSuffix("@2x");
+
+// Draws on the 32 x 32 design grid, `enlarge` times the size.
+QImage drawIcon(const std::function<void(QPainter &)> &draw, int enlarge = 1)
 {
-    QImage big = clearCanvas(kIconSide * kDetail, kIconSide * kDetail);
+    const int side = kIconSide * enlarge;
+    QImage big = clearCanvas(side * kDetail, side * kDetail);
     {
         QPainter painter(&big);
         smoothPainting(painter);
-        painter.scale(kDetail, kDetail);
+        painter.scale(kDetail * enlarge, kDetail * enlarge);
         draw(painter);
     }
-    return big.scaled(kIconSide, kIconSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+    return big.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
         .convertToFormat(QImage::Format_ARGB32);
 }
 
@@ -230,7 +237,7 @@ void nextIcon(QPainter &p)
 }
 
 // A printer with a sheet coming out, on the light grey of a toolbar button.
-QImage printerBitmap()
+QImage printerBitmap(int enlarge)
 {
     const QImage icon = drawIcon([](QPainter &p) {
         // Paper going in at the back.
@@ -257,8 +264,8 @@ QImage printerBitmap()
         p.setPen(outline(QColor(45, 98, 230), 1.0));
         for (int i = 0; i < 3; ++i)
             p.drawLine(QPointF(11, 24 + i * 2.2), QPointF(i == 2 ? 17 : 21, 24 + i * 2.2));
-    });
-    QImage bitmap = opaqueCanvas(kIconSide, kIconSide, QColor(240, 240, 240));
+    }, enlarge);
+    QImage bitmap = opaqueCanvas(icon.width(), icon.height(), QColor(240, 240, 240));
     QPainter painter(&bitmap);
     painter.drawImage(0, 0, icon);
     return bitmap;
@@ -276,8 +283,11 @@ void drawIcons(AssetOutput &out)
         {"fraction", fractionIcon}, {"trffc10a", startIcon}, {"quest", checkIcon},
         {"hand", hintIcon},         {"door2", exitIcon},     {"arw05rt", nextIcon},
     };
-    for (const auto &icon : icons)
-        out.saveImage(drawIcon(icon.draw), QStringLiteral("ico/%1.ico").arg(QLatin1String(icon.name)),
-                      "ico");
-    out.saveImage(printerBitmap(), QStringLiteral("ico/print.bmp"), "bmp");
+    for (const auto &icon : icons) {
+        const QLatin1String name(icon.name);
+        out.saveImage(drawIcon(icon.draw), QStringLiteral("ico/%1.ico").arg(name), "ico");
+        out.saveImage(drawIcon(icon.draw, kLargeTwin), QStringLiteral("ico/%1%2.ico").arg(name, kLargeTwinSuffix), "ico");
+    }
+    out.saveImage(printerBitmap(1), QStringLiteral("ico/print.bmp"), "bmp");
+    out.saveImage(printerBitmap(kLargeTwin), QStringLiteral("ico/print%1.bmp").arg(kLargeTwinSuffix), "bmp");
 }

@@ -283,8 +283,13 @@ QImage logoBitmap(int width, int height)
 
 void drawLogos(AssetOutput &out)
 {
+    // Each with a twin twice the size, from which the program draws its
+    // screens when they are larger than designed.
+    constexpr int kLargeTwin = 2;
     out.saveImage(logoBitmap(192, 72), QStringLiteral("bmp/morvane2.bmp"), "bmp");
+    out.saveImage(logoBitmap(192 * kLargeTwin, 72 * kLargeTwin), QStringLiteral("bmp/morvane2@2x.bmp"), "bmp");
     out.saveImage(logoBitmap(150, 56), QStringLiteral("bmp/morvane3.bmp"), "bmp");
+    out.saveImage(logoBitmap(150 * kLargeTwin, 56 * kLargeTwin), QStringLiteral("bmp/morvane3@2x.bmp"), "bmp");
     for (const auto &size : {std::make_pair(112, "morv"), std::make_pair(80, "smmv")}) {
         const QVector<QImage> frames = wheelFrames(size.first);
         for (int frame = 0; frame < kFrames; ++frame)

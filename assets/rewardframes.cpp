@@ -37,15 +37,19 @@ const RewardSet kSets[] = {
 constexpr int kWidth = 288;
 constexpr int kHeight = 240;
 constexpr int kTallHeight = 320;
+constexpr int kLargeTwin = 2;
 
-QImage rewardFrame(const RewardSet &set, int step)
+// One frame, drawn `enlarge` times the designed size.
+QImage rewardFrame(const RewardSet &set, int step, int enlarge)
 {
-    QImage image = opaqueCanvas(kWidth, set.tall ? kTallHeight : kHeight, screenBlue());
+    const int height = set.tall ? kTallHeight : kHeight;
+    QImage image = opaqueCanvas(kWidth * enlarge, height * enlarge, screenBlue());
     QPainter painter(&image);
     smoothPainting(painter);
+    painter.scale(enlarge, enlarge);
 
     // A rounded panel with a white rim, standing out from the blue screen.
-    const QRectF panel = QRectF(image.rect()).adjusted(4, 4, -4, -4);
+    const QRectF panel = QRectF(0, 0, kWidth, height).adjusted(4, 4, -4, -4);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(20, 70, 130, 90));
     painter.drawRoundedRect(panel.translated(1.5, 2.5), 16, 16);
@@ -72,9 +76,10 @@ void drawRewardSets(AssetOutput &out)
 {
     for (const RewardSet &set : kSets) {
         for (int step = 0; step <= kRewardSteps; ++step) {
-            out.saveJpeg(rewardFrame(set, step), QStringLiteral("jpg2/%1%2.jpg")
-                                                     .arg(QLatin1String(set.name))
-                                                     .arg(step, 2, 10, QLatin1Char('0')));
+            const QString name = QStringLiteral("jpg2/%1%2").arg(QLatin1String(set.name)).arg(step, 2, 10, QLatin1Char('0'));
+            out.saveJpeg(rewardFrame(set, step, 1), name + QStringLiteral(".jpg"));
+            // The twin twice the size, for screens drawn larger than designed.
+            out.saveJpeg(rewardFrame(set, step, kLargeTwin), name + QStringLiteral("@2x.jpg"));
         }
     }
 }

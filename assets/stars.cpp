@@ -17,6 +17,7 @@ namespace {
 constexpr int kFrames = 20;
 constexpr int kWidth = 324;
 constexpr int kHeight = 262;
+constexpr int kLargeTwin = 2;
 const QPointF kCentre(kWidth / 2.0, kHeight / 2.0);
 
 double fraction(double x) { return x - std::floor(x); }
@@ -191,15 +192,18 @@ void drawStarSeries(AssetOutput &out)
                                                   pulseFrame};
     for (int s = 0; s < 4; ++s) {
         for (int frame = 0; frame < kFrames; ++frame) {
-            QImage image = opaqueCanvas(kWidth, kHeight, screenBlue());
-            {
-                QPainter painter(&image);
-                smoothPainting(painter);
-                series[s](painter, double(frame) / kFrames);
+            const QString name = QStringLiteral("reward/stars%1%2").arg(s).arg(frame, 2, 10, QLatin1Char('0'));
+            // Each frame with a twin twice the size, for screens drawn larger than designed.
+            for (int enlarge : {1, kLargeTwin}) {
+                QImage image = opaqueCanvas(kWidth * enlarge, kHeight * enlarge, screenBlue());
+                {
+                    QPainter painter(&image);
+                    smoothPainting(painter);
+                    painter.scale(enlarge, enlarge);
+                    series[s](painter, double(frame) / kFrames);
+                }
+                out.saveJpeg(image, name + (enlarge == 1 ? QStringLiteral(".jpg") : QStringLiteral("@2x.jpg")));
             }
-            out.saveJpeg(image, QStringLiteral("reward/stars%1%2.jpg")
-                                    .arg(s)
-                                    .arg(frame, 2, 10, QLatin1Char('0')));
         }
     }
 }

@@ -37,11 +37,13 @@ QColor wedgeSurface(double longitude, double latitude)
     return colour;
 }
 
-QImage titleFrame(int frame)
+// One frame, drawn `enlarge` times the designed size.
+QImage titleFrame(int frame, int enlarge)
 {
-    QImage image = opaqueCanvas(kSide, kSide, screenBlue());
+    QImage image = opaqueCanvas(kSide * enlarge, kSide * enlarge, screenBlue());
     QPainter painter(&image);
     smoothPainting(painter);
+    painter.scale(enlarge, enlarge);
     const QPointF centre(kSide / 2.0, kSide / 2.0 - 6);
 
     // A soft glow behind the ball and its shadow on the ground.
@@ -57,8 +59,10 @@ QImage titleFrame(int frame)
     SphereView view;
     view.tiltDegrees = 22;
     view.spinDegrees = 2 * kWedgeDegrees * frame / kFrames;
-    const QImage ball = renderSphere(kRadius, view, wedgeSurface);
-    painter.drawImage(centre - QPointF(ball.width() / 2.0, ball.height() / 2.0), ball);
+    // The ball is rendered pixel by pixel at the frame's own size.
+    const QImage ball = renderSphere(kRadius * enlarge, view, wedgeSurface);
+    painter.resetTransform();
+    painter.drawImage(centre * enlarge - QPointF(ball.width() / 2.0, ball.height() / 2.0), ball);
     return image;
 }
 
@@ -66,7 +70,11 @@ QImage titleFrame(int frame)
 
 void drawTitleFrames(AssetOutput &out)
 {
-    for (int frame = 0; frame < kFrames; ++frame)
-        out.saveJpeg(titleFrame(frame),
-                     QStringLiteral("gif/sphfra/sphf%1.jpg").arg(frame, 4, 10, QLatin1Char('0')));
+    // Each frame with a twin twice the size, for screens drawn larger than designed.
+    constexpr int kLargeTwin = 2;
+    for (int frame = 0; frame < kFrames; ++frame) {
+        const QString number = QStringLiteral("%1").arg(frame, 4, 10, QLatin1Char('0'));
+        out.saveJpeg(titleFrame(frame, 1), QStringLiteral("gif/sphfra/sphf%1.jpg").arg(number));
+        out.saveJpeg(titleFrame(frame, kLargeTwin), QStringLiteral("gif/sphfra/sphf%1@2x.jpg").arg(number));
+    }
 }

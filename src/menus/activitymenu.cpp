@@ -93,7 +93,7 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
         const int top = firstTop + i * pitch;
         auto* button = new QPushButton(this);
         button->setObjectName(QString::fromLatin1(activity.button));
-        button->setIconSize(QSize(28, 28));
+        button->setIconSize(Twips::scaledPixels(QSize(28, 28)));
         // The arrow shows no words; the activity's title is its tip and
         // the name a screen reader speaks.
         button->setToolTip(Activities::titleText(activity));
@@ -119,7 +119,7 @@ ActivityMenu::ActivityMenu(const Menus::Design& design)
     Command4 = new QPushButton(tr("Goodbye"), this);
     Command4->setObjectName(QStringLiteral("Command4"));
     Command4->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
-    Command4->setIconSize(QSize(32, 32));
+    Command4->setIconSize(Twips::scaledPixels(QSize(32, 32)));
     Command4->setToolTip(tr("Go back"));
     Twips::place(Command4, kLeftColumn, 5340, 2160, 780);
 

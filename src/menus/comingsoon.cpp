@@ -50,7 +50,7 @@ Comingsoon::Comingsoon()
 
     cmdexit->setObjectName(QStringLiteral("cmdexit"));
     cmdexit->setFont(Twips::font(QStringLiteral("Arial"), 10, true));
-    cmdexit->setIconSize(QSize(32, 32));
+    cmdexit->setIconSize(Twips::scaledPixels(QSize(32, 32)));
     Twips::place(cmdexit, (kInsideWidth - 2160) / 2, 4920, 2160, 840);
     connect(cmdexit, &QPushButton::clicked, this, &Comingsoon::cmdexit_Click);
 }

@@ -54,7 +54,7 @@ QPushButton* arrowButton(QWidget* parent, const char* name)
 {
     auto* b = new QPushButton(parent);
     b->setObjectName(QString::fromLatin1(name));
-    b->setIconSize(QSize(32, 32));
+    b->setIconSize(Twips::scaledPixels(QSize(32, 32)));
     return b;
 }
 

@@ -7,6 +7,7 @@
 #include "runtime/picturebox.h"
 #include "runtime/random.h"
 #include "runtime/spoken.h"
+#include "runtime/screenfit.h"
 #include "runtime/twips.h"
 #include "shell/module1.h"
 
@@ -73,6 +74,7 @@ void Reward::Form_Load()
     const int left = (display.width() - kScreenWidthTwips) / 2 + kOffsetLeft;
     moveTo(display.x() + left, display.y() + top);
     placeOverTheBoard();
+    move(ScreenFit::keepInside(pos(), size(), ScreenFit::available()));
     setBackColour(kActivityBack);
 
     const bool message = retry == 1;

@@ -71,7 +71,7 @@ Welldone::Welldone()
     Command2->setFont(Twips::font(QStringLiteral("Arial"), 11, true));
     Twips::place(Command2, 1200, 4860, 3000, 720);
     cmdexit->setObjectName(QStringLiteral("cmdexit"));
-    cmdexit->setIconSize(QSize(32, 32));
+    cmdexit->setIconSize(Twips::scaledPixels(QSize(32, 32)));
     cmdexit->setToolTip(tr("Goodbye"));
     cmdexit->setAccessibleName(cmdexit->toolTip());
     Twips::place(cmdexit, kInside - 1200 - 1080, 4860, 1080, 720);

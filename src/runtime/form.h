@@ -32,6 +32,10 @@ public:
     // Top and Left of the window on the display, in twips.
     void moveTo(int leftTwips, int topTwips);
 
+    // Does what the window's close box does (a full-screen window in front
+    // of the screen passes its own close box on here).
+    void pressCloseBox() { closeBoxPressed(); }
+
     // The border and title bar of a window in twips, from the activity
     // screens' design (Width 9600 with ScaleWidth 9480, Height 7200 with
     // ScaleHeight 6510).

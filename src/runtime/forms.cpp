@@ -1,6 +1,7 @@
 #include "forms.h"
 
 #include "form.h"
+#include "fullscreen.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -89,6 +90,7 @@ Form* show(const QString& name)
 {
     Form* form = load(name);
     if (form) {
+        FullScreen::prepare(form);
         form->show();
         form->raise();
         if (!form->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus))

@@ -16,8 +16,10 @@ Answer ask(const Request& request)
 {
     if (g_handler)
         return g_handler(request);
+    // Over the screen in use, also when that screen is shown full screen.
     QMessageBox box(request.critical ? QMessageBox::Critical : QMessageBox::NoIcon,
-                    request.title.isEmpty() ? programTitle() : request.title, request.text);
+                    request.title.isEmpty() ? programTitle() : request.title, request.text, QMessageBox::NoButton,
+                    QApplication::activeWindow());
     if (request.buttons == Buttons::YesNo) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         box.setDefaultButton(QMessageBox::Yes);

@@ -1,16 +1,24 @@
 #include "options.h"
 
+#include "screenfit.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
 
 #ifndef PARTITUDE_INSTALLED_ASSETS
 #define PARTITUDE_INSTALLED_ASSETS ""
 #endif
 
 namespace {
+
+// The exit code of a command line that cannot be used, as usual.
+constexpr int kRefusedExitCode = 2;
 
 // The help text is translated when the parser is made, after the program's
 // translation is installed.
@@ -19,6 +27,11 @@ struct Parser {
     QCommandLineOption assets{QStringLiteral("assets"),
                               QCoreApplication::translate("Options", "Folder holding the program's pictures and sounds (ico, gif, bmp, jpg2, reward, wmf, wav)."),
                               QCoreApplication::translate("Options", "DIR")};
+    QCommandLineOption scale{QStringLiteral("scale"),
+                             QCoreApplication::translate("Options", "Draw every screen F times its designed size (for example 1.5); without it the screens fill most of the display."),
+                             QStringLiteral("F")};
+    QCommandLineOption fullScreen{QStringLiteral("fullscreen"),
+                                  QCoreApplication::translate("Options", "Show every screen full screen (F11 on any screen turns it on and off).")};
     QCommandLineOption settings{QStringLiteral("settings"),
                                 QCoreApplication::translate("Options", "Folder holding primary.inf and sound.inf; point every account at one shared folder to share the choice."),
                                 QCoreApplication::translate("Options", "DIR")};
@@ -34,6 +47,22 @@ struct Parser {
         parser.addOption(assets);
         parser.addOption(settings);
         parser.addOption(pdf);
+        parser.addOption(scale);
+        parser.addOption(fullScreen);
+    }
+
+    // The scale asked for, 0 when none was; a refused one ends the program.
+    double scaleOrExit() const
+    {
+        if (!parser.isSet(scale))
+            return 0.0;
+        QString reason;
+        const std::optional<double> value = parseScale(parser.value(scale), &reason);
+        if (!value) {
+            std::fputs(qPrintable(reason + QLatin1Char('\n')), stderr);
+            std::exit(kRefusedExitCode);
+        }
+        return *value;
     }
 
     StartOptions result() const
@@ -42,6 +71,7 @@ struct Parser {
         o.assetFolder = parser.isSet(assets) ? parser.value(assets) : defaultAssetFolder();
         o.settingsFolder = parser.isSet(settings) ? parser.value(settings) : defaultSettingsFolder();
         o.pdfFolder = parser.value(pdf);
+        o.fullScreen = parser.isSet(fullScreen);
         return o;
     }
 };
@@ -52,14 +82,37 @@ StartOptions parseCommandLine(const QCoreApplication& app)
 {
     Parser p;
     p.parser.process(app);
-    return p.result();
+    StartOptions o = p.result();
+    o.scale = p.scaleOrExit();
+    return o;
 }
 
 StartOptions parseArguments(const QStringList& arguments)
 {
     Parser p;
     p.parser.parse(arguments);
-    return p.result();
+    StartOptions o = p.result();
+    if (p.parser.isSet(p.scale))
+        o.scale = parseScale(p.parser.value(p.scale), nullptr).value_or(0.0);
+    return o;
+}
+
+std::optional<double> parseScale(const QString& text, QString* reason)
+{
+    bool number = false;
+    const double value = text.trimmed().toDouble(&number);
+    QString why;
+    if (!number || !std::isfinite(value))
+        why = QCoreApplication::translate("Options", "--scale needs a number such as 1.5, not \"%1\".").arg(text);
+    else if (value <= 0.0)
+        why = QCoreApplication::translate("Options", "--scale needs a number above 0, not %1.").arg(text);
+    else if (value > ScreenFit::kLargestScale)
+        why = QCoreApplication::translate("Options", "--scale %1 is too large: the largest is %2.").arg(text).arg(ScreenFit::kLargestScale);
+    if (why.isEmpty())
+        return value;
+    if (reason)
+        *reason = why;
+    return std::nullopt;
 }
 
 QString defaultAssetFolder()

@@ -1,8 +1,9 @@
 #pragma once
-// The command line: where the assets and settings are, and whether printed
-// pages go to PDF files instead of the printer.
+// The command line: where the assets and settings are, whether printed
+// pages go to PDF files instead of the printer, and how large the screens are.
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 class QCoreApplication;
 
@@ -10,10 +11,17 @@ struct StartOptions {
     QString assetFolder;    // the folder holding ico, gif, bmp, jpg2, reward, wmf, wav
     QString settingsFolder; // the folder holding primary.inf and sound.inf
     QString pdfFolder;      // empty: print to the default printer
+    double scale = 0.0;     // 0: picked to suit the display
+    bool fullScreen = false;
 };
 
+// Reads the number of --scale: a decimal number above 0 and at most
+// ScreenFit::kLargestScale. Anything else gives no value and the reason.
+std::optional<double> parseScale(const QString& text, QString* reason);
+
 // Parses the application's arguments (--help and --version are answered and
-// end the program, as usual).
+// end the program, as usual; a refused value is named on stderr and ends the
+// program with exit code 2).
 StartOptions parseCommandLine(const QCoreApplication& app);
 StartOptions parseArguments(const QStringList& arguments);
 

@@ -2,6 +2,7 @@
 
 #include "pictures.h"
 #include "spoken.h"
+#include "twips.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -24,10 +25,10 @@ void PictureBox::load(const QString& assetPath)
     m_path = assetPath;
     m_picture = Pictures::get(assetPath);
     if (m_autoSize)
-        resize(m_picture.deviceIndependentSize().toSize());
+        resize(drawnSize());
     // A picture that covers the box repaints only itself, never its parent.
-    setAttribute(Qt::WA_OpaquePaintEvent,
-                 m_picture.width() >= width() && m_picture.height() >= height() && !m_picture.hasAlpha());
+    const QSize drawn = drawnSize();
+    setAttribute(Qt::WA_OpaquePaintEvent, drawn.width() >= width() && drawn.height() >= height() && !m_picture.hasAlpha());
     update();
 }
 
@@ -50,8 +51,15 @@ void PictureBox::paintEvent(QPaintEvent*)
     QPainter painter(this);
     if (m_back.isValid())
         painter.fillRect(rect(), m_back);
-    if (!m_picture.isNull())
-        painter.drawPixmap(0, 0, m_picture);
+    if (!m_picture.isNull()) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawPixmap(QRect(QPoint(0, 0), drawnSize()), m_picture);
+    }
+}
+
+QSize PictureBox::drawnSize() const
+{
+    return Twips::scaledPixels(m_picture.deviceIndependentSize());
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* event)

@@ -16,6 +16,8 @@ public:
     void clear();
     QString picturePath() const { return m_path; }
     QPixmap picture() const { return m_picture; }
+    // The picture's size on screen: its designed size times the scale.
+    QSize drawnSize() const;
 
     void setAutoSize(bool on) { m_autoSize = on; }
     void setBackColour(const QColor& colour);

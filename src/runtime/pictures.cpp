@@ -1,11 +1,14 @@
 #include "pictures.h"
 
 #include "msgbox.h"
+#include "twips.h"
 
 #include <QCache>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
 #include <QHash>
 #include <QImageReader>
 
@@ -31,12 +34,23 @@ QHash<QString, Metafile>& metafiles()
     return m;
 }
 
+qreal deviceRatio() { return qGuiApp ? qGuiApp->devicePixelRatio() : 1.0; }
+
+// Whether pictures are drawn larger than the pixels they were designed in.
+bool drawnLarger() { return Twips::scale() * deviceRatio() > 1.0; }
+
 QPixmap decode(const QString& assetPath)
 {
-    QImageReader reader(resolve(assetPath));
-    const QImage image = reader.read();
+    // A picture drawn larger than designed comes from its large twin where
+    // the asset tool drew one; it keeps its designed size (deviceIndependentSize).
+    const QString twin = resolve(largeTwin(assetPath));
+    const bool large = drawnLarger() && QFileInfo::exists(twin);
+    QImageReader reader(large ? twin : resolve(assetPath));
+    QImage image = reader.read();
     if (image.isNull())
         MsgBox::fatal(missingMessage(assetPath));
+    if (large)
+        image.setDevicePixelRatio(kLargeTwinFactor);
     ++g_decodes;
     return QPixmap::fromImage(image);
 }
@@ -68,9 +82,22 @@ QPixmap get(const QString& assetPath)
     return pixmap;
 }
 
+QString largeTwin(const QString& assetPath)
+{
+    const int dot = assetPath.lastIndexOf(QLatin1Char('.'));
+    const int cut = dot > assetPath.lastIndexOf(QLatin1Char('\\')) ? dot : assetPath.size();
+    return assetPath.left(cut) + kLargeTwinSuffix + assetPath.mid(cut);
+}
+
 QIcon icon(const QString& assetPath)
 {
-    return QIcon(get(assetPath));
+    // Sized once for the scale, smoothly, so a button never stretches it.
+    const QPixmap picture = get(assetPath);
+    const qreal ratio = deviceRatio();
+    QPixmap sized = picture.scaled(Twips::scaledPixels(picture.deviceIndependentSize()) * ratio,
+                                   Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    sized.setDevicePixelRatio(ratio);
+    return QIcon(sized);
 }
 
 Metafile metafile(const QString& assetPath)

@@ -19,8 +19,17 @@ QString assetFolder();
 // The file on disk for an asset path ("gif\sphfra\sphf0000.jpg").
 QString resolve(const QString& assetPath);
 
+// The picture, whose deviceIndependentSize is the size it was designed at
+// (in pixels at 15 twips each); it is drawn at that size times the scale.
 QPixmap get(const QString& assetPath);
+// The picture as an icon, sized for the scale.
 QIcon icon(const QString& assetPath);
+
+// Pictures drawn larger than designed are read from a twin the asset tool
+// drew kLargeTwinFactor times larger, named with a suffix: "ico\door2@2x.ico".
+constexpr int kLargeTwinFactor = 2;
+constexpr char kLargeTwinSuffix[] = "@2x";
+QString largeTwin(const QString& assetPath);
 // A metafile ("wmf\y2print1.wmf"). A file the reader refuses is fatal too,
 // and the message gives the reader's reason.
 Metafile metafile(const QString& assetPath);

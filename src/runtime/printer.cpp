@@ -218,10 +218,11 @@ void Printer::line(double x1, double y1, double x2, double y2)
 
 void Printer::paintPicture(const QImage& picture, double x, double y, double width, double height)
 {
+    // At its designed size, also when it comes from its larger twin.
     if (width <= 0)
-        width = picture.width() * Twips::kPerPixel;
+        width = picture.deviceIndependentSize().width() * Twips::kPerPixel;
     if (height <= 0)
-        height = picture.height() * Twips::kPerPixel;
+        height = picture.deviceIndependentSize().height() * Twips::kPerPixel;
     paintWith(QRectF(x, y, width, height), [&](QPainter& p, const QRectF& r) { p.drawImage(r, picture); });
 }
 

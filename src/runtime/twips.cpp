@@ -1,9 +1,10 @@
 #include "twips.h"
 
+#include "screenfit.h"
+
 #include <QFont>
-#include <QGuiApplication>
 #include <QRect>
-#include <QScreen>
+#include <QSize>
 #include <QWidget>
 #include <cmath>
 
@@ -36,10 +37,15 @@ QRect rect(int left, int top, int width, int height)
     return QRect(toPixels(left), toPixels(top), toPixels(width), toPixels(height));
 }
 
+QSize scaledPixels(const QSizeF& designPixels)
+{
+    return QSize(static_cast<int>(std::lround(designPixels.width() * g_scale)),
+                 static_cast<int>(std::lround(designPixels.height() * g_scale)));
+}
+
 QRect display()
 {
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const QRect pixels = screen ? screen->geometry() : QRect(0, 0, 1024, 768);
+    const QRect pixels = ScreenFit::available();
     return QRect(fromPixels(pixels.x()), fromPixels(pixels.y()), fromPixels(pixels.width()),
                  fromPixels(pixels.height()));
 }

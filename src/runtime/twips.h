@@ -7,6 +7,8 @@
 class QWidget;
 class QFont;
 class QRect;
+class QSize;
+class QSizeF;
 class QString;
 
 namespace Twips {
@@ -21,8 +23,12 @@ void setScale(double factor);
 int toPixels(int twips);
 int fromPixels(int pixels);
 QRect rect(int left, int top, int width, int height);
+// The size on screen of something designed in pixels (a picture, an icon):
+// its designed size times the scale.
+QSize scaledPixels(const QSizeF& designPixels);
 
-// The primary display's Left, Top, Width and Height in twips.
+// The part of the primary display windows may use (without its panels):
+// Left, Top, Width and Height in twips.
 QRect display();
 
 // Places a control at Left/Top with Width/Height, all in twips.

@@ -18,7 +18,7 @@ QPushButton* commonButton(QWidget* parent, const char* name)
     auto* button = new QPushButton(parent);
     button->setObjectName(QString::fromLatin1(name));
     button->resize(Twips::toPixels(ActivityForm::kButtonWidth), Twips::toPixels(ActivityForm::kButtonHeight));
-    button->setIconSize(QSize(32, 32));
+    button->setIconSize(Twips::scaledPixels(QSize(32, 32)));
     button->setFont(Twips::font(QStringLiteral("Arial"), 8));
     button->setAutoDefault(true); // Enter presses the button that has the focus
     return button;

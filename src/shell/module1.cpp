@@ -8,6 +8,7 @@
 #include "runtime/forms.h"
 #include "runtime/picturebox.h"
 #include "runtime/random.h"
+#include "runtime/screenfit.h"
 #include "runtime/twips.h"
 
 #include <QCoreApplication>
@@ -75,6 +76,10 @@ void centreform(Form& form)
     const int top = static_cast<int>(std::lround(displayHeight / 2 - height / 2));
     const int left = static_cast<int>(std::lround(displayWidth / 2 - width / 2));
     form.moveTo(display.x() + left, display.y() + top);
+    // A screen larger than the display keeps its title bar and its top left
+    // corner in sight.
+    const QSize outer(Twips::toPixels(static_cast<int>(width)), Twips::toPixels(static_cast<int>(height)));
+    form.move(ScreenFit::keepInside(form.pos(), outer, ScreenFit::available()));
     QGuiApplication::restoreOverrideCursor();
 }
 

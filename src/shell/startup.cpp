@@ -2,10 +2,14 @@
 
 #include "language.h"
 #include "runtime/forms.h"
+#include "runtime/fullscreen.h"
 #include "runtime/options.h"
 #include "runtime/pictures.h"
 #include "runtime/printer.h"
+#include "runtime/scaledstyle.h"
+#include "runtime/screenfit.h"
 #include "runtime/settingsfile.h"
+#include "runtime/twips.h"
 #include "screens.h"
 #include "titlefrm.h"
 
@@ -18,6 +22,9 @@
 #endif
 
 namespace {
+
+// The exit code of a command line that cannot be used.
+constexpr int kRefusedExitCode = 2;
 
 void nameTheProgram()
 {
@@ -44,6 +51,11 @@ void startProgram(const StartOptions& options)
     Pictures::setAssetFolder(options.assetFolder);
     SettingsFile::setFolder(options.settingsFolder);
     PrintTarget::setPdfFolder(options.pdfFolder);
+    Twips::setScale(options.scale > 0.0 ? options.scale : ScreenFit::pickScale(ScreenFit::available().size()));
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) && Twips::scale() != 1.0)
+        QApplication::setStyle(new ScaledStyle);
+    FullScreen::setOn(options.fullScreen);
+    FullScreen::installKey();
     registerScreens();
     Forms::show<Titlefrm>();
 }
@@ -66,6 +78,15 @@ int runProgram(int argc, char* argv[])
     nameTheProgram();
     Language::install(); // before the command line, so --help is translated too
     QApplication::setQuitOnLastWindowClosed(false); // the screens end the program
-    startProgram(parseCommandLine(app));
+    const StartOptions options = parseCommandLine(app);
+    if (options.scale > 0.0 && !ScreenFit::fits(options.scale, ScreenFit::available().size())) {
+        const QSize area = ScreenFit::available().size();
+        std::fputs(qPrintable(QCoreApplication::translate("Options", "--scale %1 is too large for this display (%2 x %3): a screen would not fit on it.")
+                                  .arg(options.scale).arg(area.width()).arg(area.height())
+                              + QLatin1Char('\n')),
+                   stderr);
+        return kRefusedExitCode;
+    }
+    startProgram(options);
     return QApplication::exec();
 }

@@ -75,7 +75,7 @@ Titlefrm::Titlefrm()
     Label4->setPalette(ink);
 
     Picture1->setAccessibleName(tr("Partitude title picture"));
-    Picture1->setGeometry(Twips::toPixels(480), Twips::toPixels(840), kFrameSidePx, kFrameSidePx);
+    Twips::place(Picture1, 480, 840, kFrameSidePx * Twips::kPerPixel, kFrameSidePx * Twips::kPerPixel);
     Twips::place(Command1, 4800, 5280, 1860, 660);
     Twips::place(Command2, 6960, 5280, 1860, 660);
     Command1->setDefault(true);

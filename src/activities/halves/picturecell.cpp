@@ -1,6 +1,7 @@
 #include "picturecell.h"
 
 #include "runtime/pictures.h"
+#include "runtime/twips.h"
 
 #include <QPainter>
 
@@ -47,7 +48,7 @@ void PictureCell::nameForReader()
 
 QSize PictureCell::sizeHint() const
 {
-    return m_picture.deviceIndependentSize().toSize() + QSize(2 * kBevel, 2 * kBevel);
+    return Twips::scaledPixels(m_picture.deviceIndependentSize()) + Twips::scaledPixels(QSize(2 * kBevel, 2 * kBevel));
 }
 
 void PictureCell::paintEvent(QPaintEvent*)
@@ -58,8 +59,9 @@ void PictureCell::paintEvent(QPaintEvent*)
     painter.fillRect(whole, isChecked() ? kChosenTile : kTile);
 
     if (!m_picture.isNull()) {
-        const QRect inside = whole.adjusted(kBevel, kBevel, -kBevel, -kBevel);
-        QSize size = m_picture.deviceIndependentSize().toSize();
+        const int bevel = Twips::scaledPixels(QSize(kBevel, kBevel)).width();
+        const QRect inside = whole.adjusted(bevel, bevel, -bevel, -bevel);
+        QSize size = Twips::scaledPixels(m_picture.deviceIndependentSize());
         if (size.width() > inside.width() || size.height() > inside.height())
             size.scale(inside.size(), Qt::KeepAspectRatio);
         QRect target(QPoint(0, 0), size);

@@ -127,7 +127,7 @@ orderhelp::orderhelp()
     Twips::place(Frame2, 0, kInsideHeight - kBarHeight, kInsideWidth, kBarHeight);
     cmdexit->setObjectName(QStringLiteral("cmdexit"));
     cmdexit->setFont(Twips::font(QStringLiteral("Arial"), 11, true));
-    cmdexit->setIconSize(QSize(28, 28));
+    cmdexit->setIconSize(Twips::scaledPixels(QSize(28, 28)));
     cmdexit->setToolTip(tr("Goodbye"));
     Twips::place(cmdexit, kInsideWidth - 1455 - 240, 75, 1455, kBarHeight - 150);
 

@@ -1,0 +1,119 @@
+// Every screen, at the scale picked for small and large displays and at
+// scales asked for by hand, lies wholly on the display, and every control it
+// shows lies wholly inside it.
+#include "runtime/form.h"
+#include "runtime/screenfit.h"
+#include "runtime/twips.h"
+#include "testsupport.h"
+#include "worksheets/printforms.h"
+
+#include <QAbstractButton>
+#include <QtTest>
+
+namespace {
+
+// The screen's outer rectangle on the display: its designed size where it
+// has one (title bar and border included), else the window itself.
+QRect outerRect(const Form* form)
+{
+    if (form->designWidth() > 0)
+        return QRect(form->pos(), QSize(Twips::toPixels(form->designWidth()), Twips::toPixels(form->designHeight())));
+    return form->frameGeometry();
+}
+
+// The visible controls of a screen that stick out of it.
+QStringList outside(const Form* form)
+{
+    QStringList offenders;
+    for (const QWidget* w : form->findChildren<QWidget*>()) {
+        if (w->isWindow() || !w->isVisibleTo(const_cast<Form*>(form)) || w->size().isEmpty())
+            continue;
+        const QRect at(w->mapTo(form, QPoint(0, 0)), w->size());
+        if (!form->rect().contains(at))
+            offenders << QStringLiteral("%1 %2 at %3,%4 %5 x %6 in %7 x %8")
+                             .arg(form->objectName(), w->objectName())
+                             .arg(at.x())
+                             .arg(at.y())
+                             .arg(at.width())
+                             .arg(at.height())
+                             .arg(form->width())
+                             .arg(form->height());
+    }
+    return offenders;
+}
+
+} // namespace
+
+class TestScreenSize : public QObject {
+    Q_OBJECT
+private slots:
+    void cleanup()
+    {
+        TestSupport::unloadAll();
+        ScreenFit::pretendAvailable(QRect());
+        Twips::setScale(1.0);
+    }
+
+    void everyScreenFits_data()
+    {
+        QTest::addColumn<QRect>("available"); // logical pixels, panels taken off
+        QTest::addColumn<double>("scale");    // 0: the scale picked for the display
+        QTest::newRow("1366 x 768, picked") << QRect(0, 0, 1366, 728) << 0.0;
+        QTest::newRow("1366 x 768 at ratio 2, picked") << QRect(0, 0, 683, 364) << 0.0;
+        QTest::newRow("1366 x 768 with a panel on top, 1.4") << QRect(0, 40, 1366, 728) << 1.4;
+        QTest::newRow("3840 x 2160, picked") << QRect(0, 0, 3840, 2120) << 0.0;
+        QTest::newRow("3840 x 2160 at ratio 2, picked") << QRect(0, 0, 1920, 1040) << 0.0;
+        QTest::newRow("3840 x 2160, 1") << QRect(0, 0, 3840, 2120) << 1.0;
+        QTest::newRow("3840 x 2160, 1.5") << QRect(0, 0, 3840, 2120) << 1.5;
+        QTest::newRow("3840 x 2160, 2") << QRect(0, 0, 3840, 2120) << 2.0;
+        QTest::newRow("display to the right of another, 2") << QRect(1920, 0, 1920, 1040) << 2.0;
+    }
+
+    void everyScreenFits()
+    {
+        QFETCH(QRect, available);
+        QFETCH(double, scale);
+        world.fresh();
+        ScreenFit::pretendAvailable(available);
+        Twips::setScale(scale > 0.0 ? scale : ScreenFit::pickScale(available.size()));
+        QStringList offenders;
+        int screens = 0;
+        for (const QString& name : Forms::registeredNames()) {
+            TestSupport::unloadAll();
+            // What a screen finds when the child arrives at it from a menu.
+            Module1::version = Module1::soundsetting = QStringLiteral("0");
+            Module1::yearlabel = QStringLiteral("Year 2");
+            Module1::streak = 10;
+            Module1::activitytitle = QStringLiteral("Place In Order");
+            Form* form = Forms::show(name);
+            QVERIFY2(form, qPrintable(name));
+            // The timers' screen and the worksheet screens are only loaded,
+            // never shown.
+            if (name == QLatin1String("Grey") || qobject_cast<WorksheetForm*>(form))
+                continue;
+            ++screens;
+            const QRect outer = outerRect(form);
+            if (!available.contains(outer))
+                offenders << QStringLiteral("%1 at %2,%3 %4 x %5 off the display")
+                                 .arg(name)
+                                 .arg(outer.x())
+                                 .arg(outer.y())
+                                 .arg(outer.width())
+                                 .arg(outer.height());
+            offenders << outside(form);
+            // An activity's board and reward picture appear with Start.
+            if (auto* start = form->findChild<QAbstractButton*>(QStringLiteral("cmdstart"))) {
+                start->click();
+                offenders << outside(form);
+            }
+        }
+        QVERIFY(screens > 10);
+        QVERIFY2(offenders.isEmpty(), qPrintable(offenders.join(QLatin1Char('\n'))));
+    }
+
+private:
+    TestSupport::World world;
+};
+
+QTEST_MAIN(TestScreenSize)
+#include "tst_screensize.moc"
