@@ -40,5 +40,4 @@ protected:
 
 private:
     bool readSettings();
-    static bool editionChosen();
 };
