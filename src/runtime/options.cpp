@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <cstdio>
+#include <cstdlib>
 
 #ifndef PARTITUDE_INSTALLED_ASSETS
 #define PARTITUDE_INSTALLED_ASSETS ""
@@ -44,12 +46,27 @@ struct Parser {
     }
 };
 
+// Says what is wrong with the command line, then the usage line, and ends
+// the program.
+[[noreturn]] void refuse(const QCommandLineParser& parser, const QString& what)
+{
+    const QString usage = parser.helpText().section(QLatin1Char('\n'), 0, 0);
+    std::fputs(qPrintable(QStringLiteral("%1: %2\n%3\n").arg(QCoreApplication::applicationName(), what, usage)), stderr);
+    std::exit(kUsageExitCode);
+}
+
 } // namespace
 
 StartOptions parseCommandLine(const QCoreApplication& app)
 {
     Parser p;
-    p.parser.process(app);
+    if (!p.parser.parse(app.arguments()))
+        refuse(p.parser, p.parser.errorText());
+    // The program takes no file names or other words of its own.
+    if (!p.parser.positionalArguments().isEmpty())
+        refuse(p.parser, QCoreApplication::translate("Options", "unexpected word on the command line: %1")
+                             .arg(p.parser.positionalArguments().constFirst()));
+    p.parser.process(app); // answers --help and --version
     return p.result();
 }
 

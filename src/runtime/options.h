@@ -13,8 +13,10 @@ struct StartOptions {
 };
 
 // Parses the application's arguments (--help and --version are answered and
-// end the program, as usual).
+// end the program, as usual). An unknown option or a stray word ends it with
+// the usage line and kUsageExitCode.
 StartOptions parseCommandLine(const QCoreApplication& app);
+constexpr int kUsageExitCode = 2;
 StartOptions parseArguments(const QStringList& arguments);
 
 // The first of: beside the executable, the installed data folder.
