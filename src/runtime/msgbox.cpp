@@ -12,6 +12,16 @@ Handler g_handler;
 
 QString programTitle() { return QStringLiteral("Partitude"); }
 
+// Platforms that draw into memory only: a box there waits for a click that
+// cannot come.
+bool boxesCanBeSeen()
+{
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
+        return false;
+    const QString platform = QGuiApplication::platformName();
+    return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
+}
+
 Answer ask(const Request& request)
 {
     if (g_handler)
@@ -44,7 +54,10 @@ void fatal(const QString& text)
     // No half-drawn screen stays up behind the message.
     for (QWidget* w : QApplication::topLevelWidgets())
         w->hide();
-    ask(Request{text, programTitle(), Buttons::Ok, true});
+    // The message is on stderr already; a box is shown only where a person
+    // can see it and press OK (or where a test answers it).
+    if (g_handler || boxesCanBeSeen())
+        ask(Request{text, programTitle(), Buttons::Ok, true});
     std::fflush(nullptr);
     // Leave at once: nothing is saved, and no screen may go on drawing
     // without the file it needed.

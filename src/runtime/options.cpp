@@ -17,9 +17,6 @@
 
 namespace {
 
-// The exit code of a command line that cannot be used, as usual.
-constexpr int kRefusedExitCode = 2;
-
 // The help text is translated when the parser is made, after the program's
 // translation is installed.
 struct Parser {
@@ -60,7 +57,7 @@ struct Parser {
         const std::optional<double> value = parseScale(parser.value(scale), &reason);
         if (!value) {
             std::fputs(qPrintable(reason + QLatin1Char('\n')), stderr);
-            std::exit(kRefusedExitCode);
+            std::exit(kUsageExitCode);
         }
         return *value;
     }
@@ -76,12 +73,27 @@ struct Parser {
     }
 };
 
+// Says what is wrong with the command line, then the usage line, and ends
+// the program.
+[[noreturn]] void refuse(const QCommandLineParser& parser, const QString& what)
+{
+    const QString usage = parser.helpText().section(QLatin1Char('\n'), 0, 0);
+    std::fputs(qPrintable(QStringLiteral("%1: %2\n%3\n").arg(QCoreApplication::applicationName(), what, usage)), stderr);
+    std::exit(kUsageExitCode);
+}
+
 } // namespace
 
 StartOptions parseCommandLine(const QCoreApplication& app)
 {
     Parser p;
-    p.parser.process(app);
+    if (!p.parser.parse(app.arguments()))
+        refuse(p.parser, p.parser.errorText());
+    // The program takes no file names or other words of its own.
+    if (!p.parser.positionalArguments().isEmpty())
+        refuse(p.parser, QCoreApplication::translate("Options", "unexpected word on the command line: %1")
+                             .arg(p.parser.positionalArguments().constFirst()));
+    p.parser.process(app); // answers --help and --version
     StartOptions o = p.result();
     o.scale = p.scaleOrExit();
     return o;

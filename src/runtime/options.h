@@ -20,9 +20,11 @@ struct StartOptions {
 std::optional<double> parseScale(const QString& text, QString* reason);
 
 // Parses the application's arguments (--help and --version are answered and
-// end the program, as usual; a refused value is named on stderr and ends the
-// program with exit code 2).
+// end the program, as usual). A refused --scale is named on stderr, and an
+// unknown option or a stray word is refused with the usage line; both end it
+// with kUsageExitCode.
 StartOptions parseCommandLine(const QCoreApplication& app);
+constexpr int kUsageExitCode = 2;
 StartOptions parseArguments(const QStringList& arguments);
 
 // The first of: beside the executable, the installed data folder.

@@ -125,12 +125,21 @@ void clearCache()
     metafiles().clear();
 }
 
+namespace {
+// The file as the system writes it, under the asset folder: "ico/fraction.ico"
+// on Linux, "ico\fraction.ico" on Windows.
+QString nativeName(const QString& assetPath)
+{
+    return QDir::toNativeSeparators(QString(assetPath).replace(QLatin1Char('\\'), QLatin1Char('/')));
+}
+} // namespace
+
 QString missingMessage(const QString& assetPath)
 {
     return QCoreApplication::translate("Pictures",
                                        "Partitude cannot go on: the picture file \"%1\" is missing or cannot be read.\n\n"
                                        "Partitude looks for its pictures in the folder:\n%2")
-        .arg(assetPath, QDir::toNativeSeparators(QDir(g_folder).absolutePath()));
+        .arg(nativeName(assetPath), QDir::toNativeSeparators(QDir(g_folder).absolutePath()));
 }
 
 QString refusedMessage(const QString& assetPath, const QString& reason)
@@ -139,7 +148,7 @@ QString refusedMessage(const QString& assetPath, const QString& reason)
     return QCoreApplication::translate("Pictures",
                                        "Partitude cannot go on: the picture file \"%1\" cannot be read: %2.\n\n"
                                        "Partitude looks for its pictures in the folder:\n%3")
-        .arg(assetPath, reason, QDir::toNativeSeparators(QDir(g_folder).absolutePath()));
+        .arg(nativeName(assetPath), reason, QDir::toNativeSeparators(QDir(g_folder).absolutePath()));
 }
 
 } // namespace Pictures

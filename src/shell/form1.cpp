@@ -2,11 +2,13 @@
 
 #include "module1.h"
 #include "runtime/forms.h"
+#include "runtime/msgbox.h"
 #include "runtime/settingsfile.h"
 #include "runtime/twips.h"
 #include "settingsnames.h"
 
 #include <QCheckBox>
+#include <QDir>
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
@@ -18,8 +20,8 @@ constexpr int kWidth = 7320;
 constexpr int kHeight = 5760;
 const QColor kBack(49, 130, 212);
 const QColor kPanel(255, 251, 238);
-const QString kPrimary = QStringLiteral("0");
-const QString kSecondary = QStringLiteral("1");
+const QString& kPrimary = Module1::kPrimaryEdition;
+const QString& kSecondary = Module1::kSecondaryEdition;
 const QString kSoundOffered = QStringLiteral("0");
 const QString kSoundRemoved = QStringLiteral("1");
 
@@ -83,14 +85,14 @@ void Form1::Form_Load()
     setBackColour(kBack);
     Module1::centreform(*this);
     // The boxes show what is chosen now: the edition and sound files say "0"
-    // (primary, sound offered) after the first-run defaults below.
-    if (Module1::version == QLatin1String("-1")) {
-        if (!SettingsFile::writeValue(SettingsNames::kEdition, kPrimary))
-            return; // nothing more can be chosen on this run
+    // (primary, sound offered) after the first-run defaults below. They are
+    // offered even when the files cannot be written: the choice then holds
+    // for this run.
+    if (!Module1::editionChosen()) {
+        save(SettingsNames::kEdition, kPrimary);
         Frame1->show();
         Module1::version = kPrimary;
-        if (!SettingsFile::writeValue(SettingsNames::kSound, kSoundOffered))
-            return;
+        save(SettingsNames::kSound, kSoundOffered);
         Module1::soundsetting = kSoundOffered;
         Module1::soundoption = 1;
     }
@@ -99,10 +101,22 @@ void Form1::Form_Load()
     Check2->setChecked(Module1::soundsetting == kSoundRemoved);
 }
 
+void Form1::save(const QString& fileName, const QString& value)
+{
+    if (SettingsFile::writeValue(fileName, value) || m_toldUnwritable)
+        return;
+    // Once per showing: every later choice fails for the same reason.
+    m_toldUnwritable = true;
+    MsgBox::show(tr("Partitude cannot save your choices in the folder:\n%1\n\n"
+                    "They will hold until Partitude is closed. To keep them, start Partitude "
+                    "with --settings DIR to choose a folder it can write to.")
+                     .arg(QDir::toNativeSeparators(QDir(SettingsFile::folder()).absolutePath())));
+}
+
 void Form1::chooseEdition(const QString& value)
 {
     // The choice holds for this run even when it cannot be saved.
-    SettingsFile::writeValue(SettingsNames::kEdition, value);
+    save(SettingsNames::kEdition, value);
     Module1::version = value;
 }
 
@@ -113,8 +127,7 @@ void Form1::Option2_Click() { chooseEdition(kSecondary); }
 void Form1::Check2_Click()
 {
     const bool removed = Check2->isChecked();
-    if (!SettingsFile::writeValue(SettingsNames::kSound, removed ? kSoundRemoved : kSoundOffered))
-        return;
+    save(SettingsNames::kSound, removed ? kSoundRemoved : kSoundOffered);
     Module1::soundsetting = removed ? kSoundRemoved : kSoundOffered;
     Module1::soundoption = removed ? 0 : 1;
 }

@@ -41,4 +41,7 @@ protected:
 
 private:
     void chooseEdition(const QString& value);
+    // Writes a settings file; the first failure is told once, naming the folder.
+    void save(const QString& fileName, const QString& value);
+    bool m_toldUnwritable = false;
 };

@@ -163,4 +163,20 @@ void reset()
     starset = starstep = starframe = 0;
 }
 
+QString editionOf(const QString& value)
+{
+    bool ok = false;
+    const double number = value.trimmed().toDouble(&ok);
+    if (ok && number == 0)
+        return kPrimaryEdition;
+    if (ok && number == 1)
+        return kSecondaryEdition;
+    return kNoEdition;
+}
+
+bool editionChosen()
+{
+    return version == kPrimaryEdition || version == kSecondaryEdition;
+}
+
 } // namespace Module1

@@ -16,6 +16,17 @@ inline QString version;      // "0" primary (Year 2..6), "1" secondary (Unit 1..
 inline QString soundsetting; // "1": the sound option is removed; "0": offered
 inline int soundoption = 0;  // 1: the year menu offers "Play Sound"
 
+inline const QString kPrimaryEdition = QStringLiteral("0");
+inline const QString kSecondaryEdition = QStringLiteral("1");
+inline const QString kNoEdition = QStringLiteral("-1");
+// The edition a settings value names, read as a number: "0" or "1", and
+// kNoEdition for anything else (-1 itself, "-1.0", 2, words). The title
+// screen and the settings screen both go by this, so they always agree.
+QString editionOf(const QString& value);
+// Whether version names an edition; if not, the title screen leads on to the
+// settings screen, which offers the choice.
+bool editionChosen();
+
 // The chosen year and the run.
 inline QString yearlabel;    // "Year 2".."Year 6" or "Unit 1".."Unit 5"
 inline int streak = 0;       // right answers in a row that open the Challenge: 10 or 20

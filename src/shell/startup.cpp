@@ -1,6 +1,7 @@
 #include "startup.h"
 
 #include "language.h"
+#include "displayprobe.h"
 #include "runtime/forms.h"
 #include "runtime/fullscreen.h"
 #include "runtime/options.h"
@@ -32,16 +33,11 @@ void nameTheProgram()
     QCoreApplication::setApplicationVersion(QStringLiteral(PARTITUDE_VERSION));
 }
 
-// On Linux a window needs an X or Wayland display, unless a platform was
-// chosen by hand (QT_QPA_PLATFORM, as the tests do).
+// On Linux a window needs an X or Wayland display that answers, unless a
+// platform was chosen by hand (QT_QPA_PLATFORM, as the tests do).
 bool displayMissing()
 {
-#if defined(Q_OS_LINUX)
-    return qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-#else
-    return false;
-#endif
+    return DisplayProbe::probe() == DisplayProbe::Result::Missing;
 }
 
 } // namespace

@@ -105,10 +105,10 @@ void Titlefrm::Form_Load()
     Picture1->load(frameFile(0));
 
     if (!readSettings())
-        Module1::version = QStringLiteral("-1"); // as on a first run: OK leads to the settings screen
+        Module1::version = Module1::kNoEdition; // as on a first run: OK leads to the settings screen
 
     // Until an edition is chosen the child cannot leave from here, only go on.
-    if (!editionChosen() && Command1->text() == tr("OK"))
+    if (!Module1::editionChosen() && Command1->text() == tr("OK"))
         Command2->setEnabled(false);
 
     // The sphere turns from the start.
@@ -123,7 +123,8 @@ bool Titlefrm::readSettings()
     double soundNumber = 0;
     if (!version || !sound || !asNumber(*version, &number) || !asNumber(*sound, &soundNumber))
         return false;
-    Module1::version = *version;
+    // A number that names no edition ("-1.0", 2) counts as not chosen yet.
+    Module1::version = Module1::editionOf(*version);
     Module1::soundsetting = *sound;
     Module1::soundoption = soundNumber == 1 ? 0 : 1;
     return true;
@@ -137,16 +138,10 @@ void Titlefrm::Timer1_Timer()
     Picture1->load(frameFile(Module1::counter));
 }
 
-bool Titlefrm::editionChosen()
-{
-    double version = 0;
-    return !(asNumber(Module1::version, &version) && version == -1);
-}
-
 void Titlefrm::Command1_Click()
 {
     Module1::counter = 0;
-    Forms::showAndUnload(editionChosen() ? QStringLiteral("Year") : QStringLiteral("Form1"), this);
+    Forms::showAndUnload(Module1::editionChosen() ? QStringLiteral("Year") : QStringLiteral("Form1"), this);
 }
 
 void Titlefrm::Command2_Click()

@@ -42,5 +42,4 @@ protected:
 
 private:
     bool readSettings();
-    static bool editionChosen();
 };

@@ -25,7 +25,6 @@ private slots:
     void settingsDecideTheWayOn();
     void firstRunWritesTheDefaults();
     void choicesAreWrittenWhenClicked();
-    void anUnwritableFolderKeepsTheChoiceForThisRun();
     void theSphereTurnsAndWraps();
     void theDoorLeadsBackToATitleThatCanCancelOrExit();
 
@@ -61,6 +60,9 @@ void TestStartup::settingsDecideTheWayOn_data()
     QTest::newRow("sound garbage") << QByteArray("0\r\n") << QByteArray("\xff\xfe loud") << "-1" << 0 << false << "Form1";
     QTest::newRow("empty edition") << QByteArray("") << QByteArray("0\r\n") << "-1" << 0 << false << "Form1";
     QTest::newRow("-1 in the file") << QByteArray("-1\r\n") << QByteArray("0\r\n") << "-1" << 1 << false << "Form1";
+    QTest::newRow("-1.0 in the file") << QByteArray("-1.0\r\n") << QByteArray("0\r\n") << "-1" << 1 << false << "Form1";
+    QTest::newRow("1.0 is the secondary edition") << QByteArray("1.0\r\n") << QByteArray("1\r\n") << "1" << 0 << true << "Year";
+    QTest::newRow("2 is no edition") << QByteArray("2\r\n") << QByteArray("1\r\n") << "-1" << 0 << false << "Form1";
 }
 
 void TestStartup::settingsDecideTheWayOn()
@@ -124,21 +126,6 @@ void TestStartup::choicesAreWrittenWhenClicked()
     QCOMPARE(Module1::version, QString("1"));
     QCOMPARE(soundoption, 1);
     QVERIFY(title->Command2->isEnabled());
-}
-
-void TestStartup::anUnwritableFolderKeepsTheChoiceForThisRun()
-{
-    writeBytes(world.settingsFile("blocker"), "a file, not a folder");
-    SettingsFile::setFolder(world.settingsFile("blocker/settings"));
-    Titlefrm* title = Forms::show<Titlefrm>();
-    QTest::mouseClick(title->Command1, Qt::LeftButton);
-    Form1* settings = Forms::find<Form1>();
-    QVERIFY(settings);
-    QTest::mouseClick(settings->Option2, Qt::LeftButton);
-    QCOMPARE(Module1::version, QString("1"));
-    QTest::mouseClick(settings->Command1, Qt::LeftButton);
-    QVERIFY(Forms::isLoaded("Year"));
-    QVERIFY(world.messages.isEmpty());
 }
 
 void TestStartup::theSphereTurnsAndWraps()
