@@ -24,9 +24,6 @@
 
 namespace {
 
-// The exit code of a command line that cannot be used.
-constexpr int kRefusedExitCode = 2;
-
 void nameTheProgram()
 {
     QCoreApplication::setApplicationName(QStringLiteral("Partitude"));
@@ -81,7 +78,7 @@ int runProgram(int argc, char* argv[])
                                   .arg(options.scale).arg(area.width()).arg(area.height())
                               + QLatin1Char('\n')),
                    stderr);
-        return kRefusedExitCode;
+        return kUsageExitCode;
     }
     startProgram(options);
     return QApplication::exec();
