@@ -281,6 +281,16 @@ Click Goodbye and choose another one for now.</translation>
         <source>Keep these choices and go on to choose your year</source>
         <translation>Keep these choices and go on to choose your year</translation>
     </message>
+    <message>
+        <source>Partitude cannot save your choices in the folder:
+%1
+
+They will hold until Partitude is closed. To keep them, start Partitude with --settings DIR to choose a folder it can write to.</source>
+        <translation>Partitude cannot save your choices in the folder:
+%1
+
+They will hold until Partitude is closed. To keep them, start Partitude with --settings DIR to choose a folder it can write to.</translation>
+    </message>
 </context>
 <context>
     <name>FractionWall</name>
@@ -1048,6 +1058,34 @@ Click Goodbye and choose another one for now.</translation>
     <message>
         <source>Partitude: fractions practice and Challenges for Years 2 to 6.</source>
         <translation>Partitude: fractions practice and Challenges for Years 2 to 6.</translation>
+    </message>
+    <message>
+        <source>Draw every screen F times its designed size (for example 1.5); without it the screens fill most of the display.</source>
+        <translation>Draw every screen F times its designed size (for example 1.5); without it the screens fill most of the display.</translation>
+    </message>
+    <message>
+        <source>Show every screen full screen (F11 on any screen turns it on and off).</source>
+        <translation>Show every screen full screen (F11 on any screen turns it on and off).</translation>
+    </message>
+    <message>
+        <source>unexpected word on the command line: %1</source>
+        <translation>unexpected word on the command line: %1</translation>
+    </message>
+    <message>
+        <source>--scale needs a number such as 1.5, not &quot;%1&quot;.</source>
+        <translation>--scale needs a number such as 1.5, not &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>--scale needs a number above 0, not %1.</source>
+        <translation>--scale needs a number above 0, not %1.</translation>
+    </message>
+    <message>
+        <source>--scale %1 is too large: the largest is %2.</source>
+        <translation>--scale %1 is too large: the largest is %2.</translation>
+    </message>
+    <message>
+        <source>--scale %1 is too large for this display (%2 x %3): a screen would not fit on it.</source>
+        <translation>--scale %1 is too large for this display (%2 x %3): a screen would not fit on it.</translation>
     </message>
 </context>
 <context>

@@ -281,6 +281,16 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
         <source>Keep these choices and go on to choose your year</source>
         <translation>Garder ces choix et passer au choix de la classe</translation>
     </message>
+    <message>
+        <source>Partitude cannot save your choices in the folder:
+%1
+
+They will hold until Partitude is closed. To keep them, start Partitude with --settings DIR to choose a folder it can write to.</source>
+        <translation>Partitude ne peut pas enregistrer tes choix dans le dossier :
+%1
+
+Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Partitude avec --settings DOSSIER pour choisir un dossier où il peut écrire.</translation>
+    </message>
 </context>
 <context>
     <name>FractionWall</name>
@@ -1048,6 +1058,34 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <message>
         <source>Partitude: fractions practice and Challenges for Years 2 to 6.</source>
         <translation>Partitude&#xa0;: exercices et Défis sur les fractions, du CP au CM2.</translation>
+    </message>
+    <message>
+        <source>Draw every screen F times its designed size (for example 1.5); without it the screens fill most of the display.</source>
+        <translation>Dessine chaque écran F fois sa taille prévue (par exemple 1.5) ; sans cette option, les écrans occupent la plus grande partie de l&apos;affichage.</translation>
+    </message>
+    <message>
+        <source>Show every screen full screen (F11 on any screen turns it on and off).</source>
+        <translation>Affiche chaque écran en plein écran (F11 sur n&apos;importe quel écran l&apos;active ou le désactive).</translation>
+    </message>
+    <message>
+        <source>unexpected word on the command line: %1</source>
+        <translation>mot inattendu sur la ligne de commande : %1</translation>
+    </message>
+    <message>
+        <source>--scale needs a number such as 1.5, not &quot;%1&quot;.</source>
+        <translation>--scale demande un nombre comme 1.5, pas « %1 ».</translation>
+    </message>
+    <message>
+        <source>--scale needs a number above 0, not %1.</source>
+        <translation>--scale demande un nombre plus grand que 0, pas %1.</translation>
+    </message>
+    <message>
+        <source>--scale %1 is too large: the largest is %2.</source>
+        <translation>--scale %1 est trop grand : le plus grand possible est %2.</translation>
+    </message>
+    <message>
+        <source>--scale %1 is too large for this display (%2 x %3): a screen would not fit on it.</source>
+        <translation>--scale %1 est trop grand pour cet affichage (%2 x %3) : un écran n&apos;y tiendrait pas.</translation>
     </message>
 </context>
 <context>
