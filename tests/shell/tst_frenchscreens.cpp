@@ -135,7 +135,9 @@ QStringList TestFrenchScreens::englishIn(const QString& text) const
     QStringList found;
     if (m_englishSources.contains(text))
         found << text;
-    for (const QString& w : wordsOf(text))
+    // A web address is an address in every language.
+    static const QRegularExpression webAddress(QStringLiteral("(https?://|www\\.)\\S+"));
+    for (const QString& w : wordsOf(QString(text).remove(webAddress)))
         if (m_englishWords.contains(w))
             found << w;
     return found;
