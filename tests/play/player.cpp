@@ -1,0 +1,335 @@
+#include "player.h"
+
+#include "answering.h"
+#include "invariants.h"
+#include "runtime/form.h"
+#include "runtime/formtimer.h"
+#include "runtime/forms.h"
+#include "runtime/options.h"
+#include "rewards/reward.h"
+#include "runtime/pictures.h"
+#include "shell/activityform.h"
+#include "shell/module1.h"
+#include "shell/startup.h"
+#include "testsupport.h"
+
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QTimerEvent>
+#include <QUrl>
+#include <QWindow>
+#include <QtTest>
+
+namespace Play {
+namespace {
+
+// How often each kind of event comes, out of the sum of a row. A diligent
+// stretch answers whatever is asked and lets the timers run, so runs reach
+// the certificate and the Challenge's end; a restless one clicks and types.
+struct Weights {
+    int timer, click, key, rightAnswer, closeBox;
+};
+constexpr Weights kRestless{30, 42, 20, 3, 2};
+constexpr Weights kDiligent{45, 10, 4, 40, 1};
+constexpr int kShortestMood = 50;
+constexpr int kLongestMood = 600;
+
+// A click lands on the control's centre, or now and then anywhere on it.
+constexpr int kCentreOneIn = 2;
+// Most clicks go where the child can use them: the window in front.
+constexpr int kAnyWindowOneIn = 5;
+
+struct Key {
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    const char* name;
+};
+const Key kKeys[] = {
+    {Qt::Key_Tab, Qt::NoModifier, "Tab"},       {Qt::Key_Backtab, Qt::ShiftModifier, "Shift+Tab"},
+    {Qt::Key_Return, Qt::NoModifier, "Return"}, {Qt::Key_Enter, Qt::KeypadModifier, "Enter"},
+    {Qt::Key_Space, Qt::NoModifier, "Space"},   {Qt::Key_Escape, Qt::NoModifier, "Escape"},
+    {Qt::Key_Left, Qt::NoModifier, "Left"},     {Qt::Key_Right, Qt::NoModifier, "Right"},
+    {Qt::Key_Up, Qt::NoModifier, "Up"},         {Qt::Key_Down, Qt::NoModifier, "Down"},
+    {Qt::Key_F11, Qt::NoModifier, "F11"},       {Qt::Key_Backspace, Qt::NoModifier, "Backspace"},
+};
+constexpr int kKeyCount = int(sizeof(kKeys) / sizeof(kKeys[0]));
+constexpr int kDigitsAndLetters = 36;
+
+// The windows on show, in a fixed order: the order they were made in.
+QWidgetList windowsOnShow()
+{
+    QWidgetList windows;
+    for (const QString& name : Forms::loadedNames())
+        if (Form* form = Forms::find(name); form && form->isVisible())
+            windows << form;
+    return windows;
+}
+
+QString describe(const QWidget* control)
+{
+    QStringList names;
+    for (const QWidget* w = control; w; w = w->isWindow() ? nullptr : w->parentWidget())
+        if (!w->objectName().isEmpty())
+            names.prepend(w->objectName());
+    return names.join(QLatin1Char('/'));
+}
+
+QString describe(const MsgBox::Request& request)
+{
+    QString text = request.text.simplified();
+    constexpr int kShown = 60;
+    if (text.size() > kShown)
+        text = text.left(kShown) + QStringLiteral("...");
+    return QStringLiteral("\"%1\"").arg(text);
+}
+
+// Qt's warnings during play: each is a fault of the program (a sentence
+// with a placeholder left over, a layout that cannot fit), except the
+// offscreen platform's notes about what it cannot do.
+QStringList g_warnings;
+QtMessageHandler g_previousHandler = nullptr;
+
+bool isPlatformNote(const QString& message)
+{
+    return message.contains(QLatin1String("This plugin does not support")) || message.startsWith(QLatin1String("QStandardPaths:"));
+}
+
+void keepWarnings(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (isPlatformNote(message))
+        return;
+    if (type == QtWarningMsg || type == QtCriticalMsg)
+        g_warnings << message;
+    if (g_previousHandler)
+        g_previousHandler(type, context, message);
+}
+
+} // namespace
+
+Player::Player(std::uint64_t seed)
+    : m_rnd(seed)
+{
+    g_warnings.clear();
+    g_previousHandler = qInstallMessageHandler(keepWarnings);
+    QHashSeed::setDeterministicGlobalSeed();
+    Random::fixSeed(seed);
+    MsgBox::setHandler([this](const MsgBox::Request& r) { return answerBox(r); });
+    // The publisher's site is never opened; the click is noted instead.
+    m_site.opened = [this](const QUrl& url) { note(QStringLiteral("  site %1 not opened").arg(url.toString())); };
+    for (const QString& scheme : {QStringLiteral("http"), QStringLiteral("https")})
+        QDesktopServices::setUrlHandler(scheme, &m_site, "open");
+}
+
+Player::~Player()
+{
+    qInstallMessageHandler(g_previousHandler);
+    for (const QString& scheme : {QStringLiteral("http"), QStringLiteral("https")})
+        QDesktopServices::unsetUrlHandler(scheme);
+    MsgBox::setHandler({});
+    TestSupport::unloadAll();
+}
+
+void Player::start()
+{
+    TestSupport::unloadAll();
+    Module1::reset();
+    StartOptions options;
+    options.assetFolder = Pictures::assetFolder();
+    options.settingsFolder = m_settings.path();
+    options.pdfFolder = m_pdf.path();
+    startProgram(options);
+    ++m_reached.starts;
+    note(QStringLiteral("start"));
+    settle();
+}
+
+Player::Kind Player::chooseKind()
+{
+    if (m_moodLeft <= 0) {
+        m_diligent = m_rnd.below(2) == 0;
+        m_moodLeft = m_rnd.between(kShortestMood, kLongestMood);
+    }
+    --m_moodLeft;
+    const Weights& w = m_diligent ? kDiligent : kRestless;
+    int pick = m_rnd.below(w.timer + w.click + w.key + w.rightAnswer + w.closeBox);
+    for (const auto& [kind, weight] : {std::pair{Kind::Timer, w.timer}, std::pair{Kind::Click, w.click},
+                                       std::pair{Kind::Key, w.key}, std::pair{Kind::RightAnswer, w.rightAnswer}}) {
+        if (pick < weight)
+            return kind;
+        pick -= weight;
+    }
+    return Kind::CloseBox;
+}
+
+QString Player::step()
+{
+    ++m_reached.events;
+    bool done = false;
+    switch (chooseKind()) {
+    case Kind::Timer: done = fireTimer(); break;
+    case Kind::Click: done = click(); break;
+    case Kind::Key: done = key(); break;
+    case Kind::RightAnswer: done = rightAnswer(); break;
+    case Kind::CloseBox: done = closeBox(); break;
+    }
+    // With nothing of that kind to do, the child clicks, or waits a tick.
+    if (!done && !click() && !fireTimer())
+        note(QStringLiteral("nothing to do"));
+    settle();
+    QString broken = brokenInvariant();
+    if (broken.isEmpty() && !g_warnings.isEmpty())
+        broken = QStringLiteral("Qt warned: ") + g_warnings.takeFirst();
+    if (broken.isEmpty() && Forms::programEnded()) {
+        start();
+        broken = brokenInvariant();
+    }
+    return broken;
+}
+
+bool Player::fireTimer()
+{
+    QList<FormTimer*> running;
+    for (const QString& name : Forms::loadedNames())
+        if (Form* form = Forms::find(name))
+            for (FormTimer* timer : form->findChildren<FormTimer*>())
+                if (timer->isActive())
+                    running << timer;
+    if (running.isEmpty())
+        return false;
+    FormTimer* timer = running[m_rnd.below(int(running.size()))];
+    note(QStringLiteral("tick %1/%2").arg(timer->parent()->objectName(), timer->objectName()));
+    // The tick the event loop would deliver when the interval is up.
+    QTimerEvent tick(timer->timerId());
+    QCoreApplication::sendEvent(timer, &tick);
+    return true;
+}
+
+bool Player::click()
+{
+    const QWidgetList windows = windowsOnShow();
+    if (windows.isEmpty())
+        return false;
+    const OnShow shown = onShow();
+    QWidgetList targets = windows;
+    if (shown.front && m_rnd.below(kAnyWindowOneIn) != 0)
+        targets = {shown.front};
+    QWidgetList controls;
+    for (QWidget* window : targets)
+        for (QWidget* control : window->findChildren<QWidget*>())
+            if (!control->objectName().isEmpty() && control->isVisible() && control->isEnabled()
+                && !control->size().isEmpty())
+                controls << control;
+    if (controls.isEmpty())
+        return false;
+    QWidget* control = controls[m_rnd.below(int(controls.size()))];
+    QPoint at = control->rect().center();
+    if (m_rnd.below(kCentreOneIn) != 0)
+        at = QPoint(m_rnd.below(control->width()), m_rnd.below(control->height()));
+    QWidget* window = control->window();
+    const QPoint inWindow = control->mapTo(window, at);
+    note(QStringLiteral("click %1 at %2,%3").arg(describe(control)).arg(inWindow.x()).arg(inWindow.y()));
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow);
+    return true;
+}
+
+bool Player::key()
+{
+    QWindow* target = QGuiApplication::focusWindow();
+    const OnShow shown = onShow();
+    if ((!target || !target->isVisible()) && shown.front)
+        target = shown.front->windowHandle();
+    if (!target)
+        return false;
+    const int pick = m_rnd.below(kKeyCount + kDigitsAndLetters);
+    if (pick < kKeyCount) {
+        const Key& k = kKeys[pick];
+        note(QStringLiteral("key %1 into %2").arg(QLatin1String(k.name), target->objectName()));
+        QTest::keyClick(target, k.key, k.modifiers);
+    } else {
+        const int n = pick - kKeyCount;
+        const char c = n < 10 ? char('0' + n) : char('a' + n - 10);
+        note(QStringLiteral("key %1 into %2").arg(QLatin1Char(c)).arg(target->objectName()));
+        QTest::keyClick(target, c);
+    }
+    return true;
+}
+
+bool Player::rightAnswer()
+{
+    // The child answers the activity in front, not one behind a box.
+    auto* form = qobject_cast<ActivityForm*>(onShow().front);
+    if (!form)
+        return false;
+    note(QStringLiteral("right answer on %1").arg(form->objectName()));
+    if (!form->giveRightAnswer())
+        return false;
+    ++m_reached.rightAnswers;
+    return true;
+}
+
+bool Player::closeBox()
+{
+    const QWidgetList windows = windowsOnShow();
+    if (windows.isEmpty())
+        return false;
+    QWidget* window = windows[m_rnd.below(int(windows.size()))];
+    note(QStringLiteral("close box of %1").arg(window->objectName()));
+    TestSupport::pressCloseBox(window);
+    return true;
+}
+
+MsgBox::Answer Player::answerBox(const MsgBox::Request& request)
+{
+    ++m_reached.boxes;
+    MsgBox::Answer answer = MsgBox::Answer::Ok;
+    if (request.buttons == MsgBox::Buttons::YesNo)
+        answer = m_rnd.below(2) == 0 ? MsgBox::Answer::Yes : MsgBox::Answer::No;
+    const char* words = answer == MsgBox::Answer::Ok ? "OK" : answer == MsgBox::Answer::Yes ? "Yes" : "No";
+    note(QStringLiteral("  box %1 answered %2").arg(describe(request), QLatin1String(words)));
+    return answer;
+}
+
+void Player::settle()
+{
+    Play::settle();
+    count();
+}
+
+void Player::count()
+{
+    for (QWidget* w : windowsOnShow())
+        if (!m_seen.contains(w->objectName()))
+            m_seen << w->objectName();
+    QWidget* certificate = Forms::find(QStringLiteral("Welldone"));
+    if (certificate && certificate != m_lastCertificate) {
+        ++m_reached.certificates;
+        if (Module1::challenge > 0)
+            ++m_reached.challengesWon;
+    }
+    m_lastCertificate = certificate;
+    // The retry panel says the Challenge begins again; the stars use it too.
+    auto* retryPanel = Forms::find<Reward>();
+    if (retryPanel && retryPanel != m_lastRetryPanel && retryPanel->Label1->isVisible())
+        ++m_reached.retryPanels;
+    m_lastRetryPanel = retryPanel;
+}
+
+void Player::note(const QString& event)
+{
+    const QString line = event.startsWith(QLatin1Char(' ')) ? event : QStringLiteral("#%1 %2").arg(m_reached.events).arg(event);
+    m_last.push_back(line);
+    while (m_last.size() > kRemembered)
+        m_last.pop_front();
+    if (m_echo)
+        m_echo(line);
+}
+
+QStringList Player::screensSeen() const
+{
+    QStringList seen = m_seen;
+    seen.sort();
+    return seen;
+}
+
+} // namespace Play
