@@ -16,6 +16,8 @@
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTimerEvent>
 #include <QUrl>
 #include <QWindow>
@@ -28,10 +30,12 @@ namespace {
 // stretch answers whatever is asked and lets the timers run, so runs reach
 // the certificate and the Challenge's end; a restless one clicks and types.
 struct Weights {
-    int timer, click, key, rightAnswer, closeBox;
+    int timer, click, key, rightAnswer, slip, closeBox;
 };
-constexpr Weights kRestless{30, 42, 20, 3, 2};
-constexpr Weights kDiligent{45, 10, 4, 40, 1};
+constexpr Weights kRestless{30, 42, 20, 3, 2, 2};
+constexpr Weights kDiligent{45, 10, 4, 40, 2, 1};
+// A slip: a few clicks or digits on the board, then Check.
+constexpr int kMostSlipTouches = 5;
 constexpr int kShortestMood = 50;
 constexpr int kLongestMood = 600;
 
@@ -152,9 +156,10 @@ Player::Kind Player::chooseKind()
     }
     --m_moodLeft;
     const Weights& w = m_diligent ? kDiligent : kRestless;
-    int pick = m_rnd.below(w.timer + w.click + w.key + w.rightAnswer + w.closeBox);
+    int pick = m_rnd.below(w.timer + w.click + w.key + w.rightAnswer + w.slip + w.closeBox);
     for (const auto& [kind, weight] : {std::pair{Kind::Timer, w.timer}, std::pair{Kind::Click, w.click},
-                                       std::pair{Kind::Key, w.key}, std::pair{Kind::RightAnswer, w.rightAnswer}}) {
+                                       std::pair{Kind::Key, w.key}, std::pair{Kind::RightAnswer, w.rightAnswer},
+                                       std::pair{Kind::Slip, w.slip}}) {
         if (pick < weight)
             return kind;
         pick -= weight;
@@ -171,6 +176,7 @@ QString Player::step()
     case Kind::Click: done = click(); break;
     case Kind::Key: done = key(); break;
     case Kind::RightAnswer: done = rightAnswer(); break;
+    case Kind::Slip: done = slip(); break;
     case Kind::CloseBox: done = closeBox(); break;
     }
     // With nothing of that kind to do, the child clicks, or waits a tick.
@@ -226,11 +232,16 @@ bool Player::click()
     QPoint at = control->rect().center();
     if (m_rnd.below(kCentreOneIn) != 0)
         at = QPoint(m_rnd.below(control->width()), m_rnd.below(control->height()));
+    clickAt(control, at);
+    return true;
+}
+
+void Player::clickAt(QWidget* control, const QPoint& at)
+{
     QWidget* window = control->window();
     const QPoint inWindow = control->mapTo(window, at);
     note(QStringLiteral("click %1 at %2,%3").arg(describe(control)).arg(inWindow.x()).arg(inWindow.y()));
     QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow);
-    return true;
 }
 
 bool Player::key()
@@ -258,13 +269,60 @@ bool Player::key()
 bool Player::rightAnswer()
 {
     // The child answers the activity in front, not one behind a box.
-    auto* form = qobject_cast<ActivityForm*>(onShow().front);
+    QWidget* front = onShow().front;
+    if (front && front->objectName() == QLatin1String("Welldone")) {
+        // Leaving the certificate arms the Challenge.
+        auto* leave = front->findChild<QPushButton*>(QStringLiteral("cmdexit"));
+        if (!leave || !leave->isEnabled())
+            return false;
+        clickAt(leave, leave->rect().center());
+        return true;
+    }
+    auto* form = qobject_cast<ActivityForm*>(front);
     if (!form)
         return false;
     note(QStringLiteral("right answer on %1").arg(form->objectName()));
-    if (!form->giveRightAnswer())
+    if (form->giveRightAnswer()) {
+        ++m_reached.rightAnswers;
+        return true;
+    }
+    // No question waits: once nothing is running, a run (or the Challenge) begins.
+    const QList<FormTimer*> timers = form->findChildren<FormTimer*>();
+    const bool waiting = std::any_of(timers.cbegin(), timers.cend(), [](const FormTimer* t) { return t->isActive(); })
+        || Forms::isLoaded(QStringLiteral("Reward"));
+    if (waiting || !form->isEnabled() || !form->cmdstart->isEnabled())
         return false;
-    ++m_reached.rightAnswers;
+    clickAt(form->cmdstart, form->cmdstart->rect().center());
+    return true;
+}
+
+bool Player::slip()
+{
+    QPointer<ActivityForm> form = qobject_cast<ActivityForm*>(onShow().front);
+    if (!form || !form->isEnabled() || !form->cmdcheck->isEnabled())
+        return false;
+    note(QStringLiteral("slip on %1").arg(form->objectName()));
+    QList<QPointer<QWidget>> board;
+    for (QWidget* control : form->findChildren<QWidget*>())
+        if (isUsable(control) && !control->objectName().isEmpty()
+            && form->boardArea().contains(control->mapTo(form, control->rect().center())))
+            board << control;
+    const int touches = 1 + m_rnd.below(kMostSlipTouches);
+    for (int n = 0; n < touches && !board.isEmpty(); ++n) {
+        QWidget* control = board[m_rnd.below(int(board.size()))];
+        if (!form || !control || !isUsable(control))
+            continue;
+        clickAt(control, control->rect().center());
+        if (control && qobject_cast<QLineEdit*>(control) && control->hasFocus()) {
+            const char digit = char('0' + m_rnd.below(10));
+            note(QStringLiteral("  types %1 and Return").arg(QLatin1Char(digit)));
+            QTest::keyClick(control->window()->windowHandle(), digit);
+            QTest::keyClick(control->window()->windowHandle(), Qt::Key_Return);
+        }
+        settle();
+    }
+    if (form && form->isEnabled() && form->cmdcheck->isEnabled() && form->cmdcheck->isVisible())
+        clickAt(form->cmdcheck, form->cmdcheck->rect().center());
     return true;
 }
 

@@ -18,6 +18,7 @@
 #include <QPointer>
 #include <QUrl>
 
+class QPoint;
 class QWidget;
 
 namespace Play {
@@ -73,7 +74,7 @@ public:
     QString pdfFolder() const { return m_pdf.path(); }
 
 private:
-    enum class Kind { Timer, Click, Key, RightAnswer, CloseBox };
+    enum class Kind { Timer, Click, Key, RightAnswer, Slip, CloseBox };
 
     Kind chooseKind();
     bool fireTimer();
@@ -81,6 +82,8 @@ private:
     bool key();
     bool rightAnswer();
     bool closeBox();
+    bool slip();
+    void clickAt(QWidget* control, const QPoint& at);
     void settle();
     void note(const QString& event);
     MsgBox::Answer answerBox(const MsgBox::Request& request);
