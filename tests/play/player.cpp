@@ -48,19 +48,45 @@ struct Key {
     Qt::Key key;
     Qt::KeyboardModifiers modifiers;
     const char* name;
+    const char* text;
 };
 const Key kKeys[] = {
-    {Qt::Key_Tab, Qt::NoModifier, "Tab"},       {Qt::Key_Backtab, Qt::ShiftModifier, "Shift+Tab"},
-    {Qt::Key_Return, Qt::NoModifier, "Return"}, {Qt::Key_Enter, Qt::KeypadModifier, "Enter"},
-    {Qt::Key_Space, Qt::NoModifier, "Space"},   {Qt::Key_Escape, Qt::NoModifier, "Escape"},
-    {Qt::Key_Left, Qt::NoModifier, "Left"},     {Qt::Key_Right, Qt::NoModifier, "Right"},
-    {Qt::Key_Up, Qt::NoModifier, "Up"},         {Qt::Key_Down, Qt::NoModifier, "Down"},
-    {Qt::Key_F11, Qt::NoModifier, "F11"},       {Qt::Key_Backspace, Qt::NoModifier, "Backspace"},
+    {Qt::Key_Tab, Qt::NoModifier, "Tab", "\t"},          {Qt::Key_Backtab, Qt::ShiftModifier, "Shift+Tab", ""},
+    {Qt::Key_Return, Qt::NoModifier, "Return", "\r"},    {Qt::Key_Enter, Qt::KeypadModifier, "Enter", "\r"},
+    {Qt::Key_Space, Qt::NoModifier, "Space", " "},       {Qt::Key_Escape, Qt::NoModifier, "Escape", "\x1b"},
+    {Qt::Key_Left, Qt::NoModifier, "Left", ""},          {Qt::Key_Right, Qt::NoModifier, "Right", ""},
+    {Qt::Key_Up, Qt::NoModifier, "Up", ""},              {Qt::Key_Down, Qt::NoModifier, "Down", ""},
+    {Qt::Key_F11, Qt::NoModifier, "F11", ""},            {Qt::Key_Backspace, Qt::NoModifier, "Backspace", "\b"},
 };
 constexpr int kKeyCount = int(sizeof(kKeys) / sizeof(kKeys[0]));
 constexpr int kDigitsAndLetters = 36;
 
 // The windows on show, in a fixed order: the order they were made in.
+// A click and a key as the window system delivers them. QTest's own
+// QWindow clicks and keys also run the event loop afterwards, where a timer
+// whose interval has passed on the clock would tick: that would make a
+// seed's play depend on how fast the machine is.
+int g_clock = 0;
+constexpr int kEventGapMs = 1000; // never a double click
+
+void deliverClick(QWindow* target, const QPoint& at)
+{
+    const QPointer<QWindow> window(target);
+    const QPointF local(at);
+    const QPointF global = window->mapToGlobal(at);
+    g_clock += kEventGapMs;
+    qt_handleMouseEvent(window, local, global, Qt::LeftButton, Qt::LeftButton, QEvent::MouseButtonPress, Qt::NoModifier, g_clock);
+    g_clock += kEventGapMs;
+    if (window) // the press may have taken the window away
+        qt_handleMouseEvent(window, local, global, Qt::NoButton, Qt::LeftButton, QEvent::MouseButtonRelease, Qt::NoModifier, g_clock);
+}
+
+void deliverKey(QWindow* window, int key, Qt::KeyboardModifiers modifiers, const QString& text)
+{
+    qt_handleKeyEvent(window, QEvent::KeyPress, key, modifiers, text);
+    qt_handleKeyEvent(window, QEvent::KeyRelease, key, modifiers, text);
+}
+
 QWidgetList windowsOnShow()
 {
     QWidgetList windows;
@@ -241,7 +267,7 @@ void Player::clickAt(QWidget* control, const QPoint& at)
     QWidget* window = control->window();
     const QPoint inWindow = control->mapTo(window, at);
     note(QStringLiteral("click %1 at %2,%3").arg(describe(control)).arg(inWindow.x()).arg(inWindow.y()));
-    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, inWindow);
+    deliverClick(window->windowHandle(), inWindow);
 }
 
 bool Player::key()
@@ -256,12 +282,12 @@ bool Player::key()
     if (pick < kKeyCount) {
         const Key& k = kKeys[pick];
         note(QStringLiteral("key %1 into %2").arg(QLatin1String(k.name), target->objectName()));
-        QTest::keyClick(target, k.key, k.modifiers);
+        deliverKey(target, k.key, k.modifiers, QString::fromLatin1(k.text));
     } else {
         const int n = pick - kKeyCount;
         const char c = n < 10 ? char('0' + n) : char('a' + n - 10);
         note(QStringLiteral("key %1 into %2").arg(QLatin1Char(c)).arg(target->objectName()));
-        QTest::keyClick(target, c);
+        deliverKey(target, n < 10 ? Qt::Key_0 + n : Qt::Key_A + n - 10, Qt::NoModifier, QString(QLatin1Char(c)));
     }
     return true;
 }
@@ -316,8 +342,9 @@ bool Player::slip()
         if (control && qobject_cast<QLineEdit*>(control) && control->hasFocus()) {
             const char digit = char('0' + m_rnd.below(10));
             note(QStringLiteral("  types %1 and Return").arg(QLatin1Char(digit)));
-            QTest::keyClick(control->window()->windowHandle(), digit);
-            QTest::keyClick(control->window()->windowHandle(), Qt::Key_Return);
+            deliverKey(control->window()->windowHandle(), Qt::Key_0 + (digit - '0'), Qt::NoModifier, QString(QLatin1Char(digit)));
+            if (control)
+                deliverKey(control->window()->windowHandle(), Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
         }
         settle();
     }
