@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QEventLoop>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QWidget>
@@ -26,6 +27,8 @@ class QWindowSystemInterface {
 public:
     struct SynchronousDelivery;
     template <typename Delivery> static bool handleCloseEvent(QWindow* window);
+    // Delivers the window system's queued events (a window shown, activated) now.
+    static bool flushWindowSystemEvents(QEventLoop::ProcessEventsFlags flags);
 };
 
 namespace TestSupport {

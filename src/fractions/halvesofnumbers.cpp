@@ -63,10 +63,14 @@ QString hint(const Question& q, const QString& picname)
               .arg(picname)
               .arg(q.bottom)
               .arg(each);
-    const QString groups = q.top == 1 ? QCoreApplication::translate("HalvesOfNumbers", "%1 is 1 group: %2 %3.")
-                                      : QCoreApplication::translate("HalvesOfNumbers", "%1 is %4 groups: %2 %3.");
-    return share + QLatin1Char(' ')
-        + groups.arg(Fractions::capitalised(Fractions::words(q.top, q.bottom))).arg(q.answer()).arg(picname).arg(q.top);
+    QString groups = (q.top == 1 ? QCoreApplication::translate("HalvesOfNumbers", "%1 is 1 group: %2 %3.")
+                                 : QCoreApplication::translate("HalvesOfNumbers", "%1 is %4 groups: %2 %3."))
+                         .arg(Fractions::capitalised(Fractions::words(q.top, q.bottom)))
+                         .arg(q.answer())
+                         .arg(picname);
+    if (q.top != 1)
+        groups = groups.arg(q.top); // one group has no number of groups to write
+    return share + QLatin1Char(' ') + groups;
 }
 
 } // namespace HalvesOfNumbers

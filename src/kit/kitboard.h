@@ -32,6 +32,10 @@ public:
     // After a check: whatever the board shows of the answer (a mark on a
     // number line, the right number of parts).
     virtual void showChecked(const Verdict&) {}
+    // Puts the right answer to the question on the board, as the child
+    // would give it, without checking it. The random play and the memory
+    // test answer through it, so every board must say how it is answered.
+    virtual void giveRightAnswer() = 0;
 
 signals:
     // The child finished answering the board's own way (Enter in the last

@@ -40,6 +40,7 @@ public:
 
     void clearBoardAtEnd() override;
     QRect boardArea() const override;
+    bool giveRightAnswer() override;
 
 public slots:
     void Form_Load();

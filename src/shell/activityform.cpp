@@ -31,7 +31,16 @@ QRadioButton* questionsOption(QWidget* parent, const char* name, const QString& 
     // A radio button fills with the Button colour; these take the back
     // colour their screen gives them.
     option->setBackgroundRole(QPalette::Window);
-    QObject::connect(option, &QRadioButton::clicked, option, [length] { Module1::questions = length; });
+    QObject::connect(option, &QRadioButton::clicked, option, [option, length] {
+        // A run already past the shorter length keeps its own: its count of
+        // right answers never stands above the run's length.
+        if (Module1::counter > length) {
+            if (auto* form = qobject_cast<ActivityForm*>(option->window()))
+                form->showQuestionsChoice();
+            return;
+        }
+        Module1::questions = length;
+    });
     return option;
 }
 

@@ -42,6 +42,12 @@ public:
     // reward picture.
     virtual QRect boardArea() const { return rect(); }
 
+    // Gives the right answer to the question on the board and hands it in,
+    // as the child would. Returns false, doing nothing, when no question
+    // waits for an answer (before Start, while a checked answer shows,
+    // while the screen is disabled). For the random play and the tests.
+    virtual bool giveRightAnswer() { return false; }
+
     // The buttons' pictures and the screen's icon, as every activity loads
     // them.
     void loadButtonPictures();

@@ -92,6 +92,8 @@ void TestHalvesActivities::shapeVerdicts()
 
 void TestHalvesActivities::hints()
 {
+    // Every placeholder filled, none left over (one group has no count).
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("QString::arg")));
     QCOMPARE(HalvesShapes::hint({ShapeKind::SquareGrid, 4, 3, 4}, 1),
              QStringLiteral("The square is cut into 4 equal parts. Three quarters is 3 of them. You have coloured 1."));
     QCOMPARE(HalvesShapes::hint({ShapeKind::Circle, 2, 1, 2}, 0),

@@ -37,6 +37,7 @@ public:
     QString hint() override { ++hints; return QStringLiteral("Count the parts."); }
     void setAnswering(bool on) override { answering = on; }
     void focusAnswer() override { box->setFocus(); }
+    void giveRightAnswer() override { next = Verdict::right(QStringLiteral("given")); }
 
     QLineEdit* box;
     Verdict next = Verdict::right(QStringLiteral("1/2 of 4 is 2."));
@@ -88,6 +89,7 @@ private slots:
     void practiceToTheCertificate();
     void challengeFailedThenWon();
     void waysBackToTheMenu();
+    void runLengthNeverBelowTheCount();
 
 private:
     TestSupport::World world;
@@ -196,6 +198,25 @@ void TestRun::waysBackToTheMenu()
     TestSupport::flushUnloads();
     QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("y2Intro")});
     QVERIFY(!Forms::programEnded());
+}
+
+// "10 Questions" chosen after 15 right answers of a 20-question run leaves
+// the run at 20, so the count never stands above the run's length; before
+// that many answers the choice is taken.
+void TestRun::runLengthNeverBelowTheCount()
+{
+    ProbeScreen* form = openFromMenu();
+    form->cmdstart->click();
+    QCOMPARE(questions, 20);
+    for (int right = 1; right <= 15; ++right) {
+        answer(form, Verdict::right(QStringLiteral("right")));
+        nextQuestion(form);
+    }
+    form->Option1->click();
+    QVERIFY(questions == 20 && counter == 15 && form->Option2->isChecked() && !form->Option1->isChecked());
+    form->cmdstart->click();
+    form->Option1->click();
+    QVERIFY(questions == 10 && form->Option1->isChecked());
 }
 
 QTEST_MAIN(TestRun)

@@ -215,6 +215,19 @@ void Y2fractions::clearBoardAtEnd()
         cell->hide();
 }
 
+bool Y2fractions::giveRightAnswer()
+{
+    if (!isEnabled() || !cmdcheck->isEnabled() || !Frame2->isVisible())
+        return false;
+    // The first pictures picked, as many as the question asks for; the
+    // child's other picks taken back.
+    for (PictureCell* cell : Image1)
+        if (cell->isEnabled() && cell->isSelected() != (cell->index() < question.target))
+            Image1_Click(cell->index());
+    cmdcheck_Click();
+    return true;
+}
+
 void Y2fractions::cmdhint_Click()
 {
     switchoff();

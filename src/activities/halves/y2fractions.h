@@ -43,6 +43,7 @@ public:
 
     void clearBoardAtEnd() override;
     QRect boardArea() const override;
+    bool giveRightAnswer() override;
 
     static constexpr int kTimer1Ms = 2500;
     static constexpr int kTimer2Ms = 1000;

@@ -80,6 +80,11 @@ void PicturesBoard::focusAnswer()
     Text1->setFocus();
 }
 
+void PicturesBoard::giveRightAnswer()
+{
+    Text1->setText(QString::number(m_question.answer()));
+}
+
 Worksheets::Sheet PicturesBoard::worksheet(Random::Source& rnd)
 {
     return Worksheets::drawSheet<HalvesOfNumbers::Question>(

@@ -52,6 +52,15 @@ void ShapesBoard::focusAnswer()
     Shape1->setFocus();
 }
 
+void ShapesBoard::giveRightAnswer()
+{
+    // The first parts coloured, as many as the question asks for.
+    QVector<bool> coloured(Shape1->partCount(), false);
+    for (int part = 0; part < m_question.partsToColour() && part < coloured.size(); ++part)
+        coloured[part] = true;
+    Shape1->setColoured(coloured);
+}
+
 Worksheets::Sheet ShapesBoard::worksheet(Random::Source& rnd)
 {
     return Worksheets::drawSheet<HalvesShapes::Question>(

@@ -24,6 +24,7 @@ public:
     QString hint() override;
     void setAnswering(bool on) override;
     void focusAnswer() override;
+    void giveRightAnswer() override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

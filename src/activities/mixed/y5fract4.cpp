@@ -13,9 +13,11 @@
 
 #include <QCoreApplication>
 #include <QFrame>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <algorithm>
 
 using namespace Module1;
 
@@ -251,6 +253,27 @@ void y5fract4::clearBoardAtEnd()
     Label5->hide();
     Picture2->hide();
     Picture3->hide();
+}
+
+bool y5fract4::giveRightAnswer()
+{
+    const bool toMixed = m_question.direction == MixedQuestion::kToMixed;
+    const QList<QLineEdit*> boxes = toMixed ? QList<QLineEdit*>{Text1, Text4, Text2} : QList<QLineEdit*>{Text3, Text5};
+    const QList<int> values = toMixed ? QList<int>{m_question.whole, m_question.numer, m_question.denom}
+                                      : QList<int>{m_question.improperNumerator(), m_question.denom};
+    const bool asked = isEnabled() && !Picture1->isVisible() && (toMixed ? Picture2 : Picture3)->isVisible();
+    if (!asked || std::none_of(boxes.cbegin(), boxes.cend(), [](const QLineEdit* box) { return box->isVisible(); }))
+        return false;
+    // Each box still open gets its number and ENTER, the last one checks.
+    for (int i = 0; i < boxes.size(); ++i) {
+        QLineEdit* box = boxes[i];
+        if (!box->isVisible() || !box->isEnabled())
+            continue;
+        box->setText(QString::number(values[i]));
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+        QCoreApplication::sendEvent(box, &enter);
+    }
+    return true;
 }
 
 void y5fract4::cmdhint_Click()

@@ -81,6 +81,7 @@ public:
 
     void clearBoardAtEnd() override;
     QRect boardArea() const override;
+    bool giveRightAnswer() override;
 
 public slots:
     void Form_Load();

@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 
 using namespace Module1;
 
@@ -285,6 +286,21 @@ void Y6fract3::showorder()
     for (int i = 0; i < NumberSet::kCount; ++i)
         Label11[i]->setText(sorted[i]);
     Timer4->setEnabled(true);
+}
+
+bool Y6fract3::giveRightAnswer()
+{
+    const bool asked = isEnabled() && !Picture1->isVisible() && Label2->isHidden()
+        && std::any_of(Label10.cbegin(), Label10.cend(), [](const NumberLabel* n) { return n->isVisible() && n->isEnabled(); });
+    if (!asked)
+        return false;
+    // The child's picks taken back, then every number clicked, smallest first.
+    for (int step = 0; step < NumberSet::kCount && NumberSet::firstFreeSlot(answers()) != 0; ++step)
+        cmdundo_Click();
+    for (const QString& caption : NumberSet::sortedOrder(numbers()))
+        if (const int number = NumberSet::numberWithValue(numbers(), caption); number >= 0)
+            Label10_Click(number);
+    return true;
 }
 
 void Y6fract3::cmdhint_Click()

@@ -74,6 +74,7 @@ public:
 
     void clearBoardAtEnd() override;
     QRect boardArea() const override;
+    bool giveRightAnswer() override;
 
     // A typed-key filter kept for a typed-entry board: Tab or Enter locks a
     // filled entry and checks; only digits, ".", "-" and backspace pass.
