@@ -286,7 +286,7 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
 %1
 
 They will hold until Partitude is closed. To keep them, start Partitude with --settings DIR to choose a folder it can write to.</source>
-        <translation>Partitude ne peut pas enregistrer tes choix dans le dossier :
+        <translation>Partitude ne peut pas enregistrer tes choix dans le dossier&#xa0;:
 %1
 
 Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Partitude avec --settings DOSSIER pour choisir un dossier où il peut écrire.</translation>
@@ -1061,7 +1061,7 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>Draw every screen F times its designed size (for example 1.5); without it the screens fill most of the display.</source>
-        <translation>Dessine chaque écran F fois sa taille prévue (par exemple 1.5) ; sans cette option, les écrans occupent la plus grande partie de l&apos;affichage.</translation>
+        <translation>Dessine chaque écran F fois sa taille prévue (par exemple 1.5)&#xa0;; sans cette option, les écrans occupent la plus grande partie de l&apos;affichage.</translation>
     </message>
     <message>
         <source>Show every screen full screen (F11 on any screen turns it on and off).</source>
@@ -1069,11 +1069,11 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>unexpected word on the command line: %1</source>
-        <translation>mot inattendu sur la ligne de commande : %1</translation>
+        <translation>mot inattendu sur la ligne de commande&#xa0;: %1</translation>
     </message>
     <message>
         <source>--scale needs a number such as 1.5, not &quot;%1&quot;.</source>
-        <translation>--scale demande un nombre comme 1.5, pas « %1 ».</translation>
+        <translation>--scale demande un nombre comme 1.5, pas «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>--scale needs a number above 0, not %1.</source>
@@ -1081,11 +1081,11 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>--scale %1 is too large: the largest is %2.</source>
-        <translation>--scale %1 est trop grand : le plus grand possible est %2.</translation>
+        <translation>--scale %1 est trop grand&#xa0;: le plus grand possible est %2.</translation>
     </message>
     <message>
         <source>--scale %1 is too large for this display (%2 x %3): a screen would not fit on it.</source>
-        <translation>--scale %1 est trop grand pour cet affichage (%2 x %3) : un écran n&apos;y tiendrait pas.</translation>
+        <translation>--scale %1 est trop grand pour cet affichage (%2 x %3)&#xa0;: un écran n&apos;y tiendrait pas.</translation>
     </message>
 </context>
 <context>
