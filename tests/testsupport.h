@@ -3,6 +3,7 @@
 // folder, the screens registered, message boxes answered by the test, a fixed
 // random seed, silence, and a way to unload everything between test functions.
 #include "runtime/forms.h"
+#include "runtime/fullscreen.h"
 #include "runtime/msgbox.h"
 #include "runtime/pictures.h"
 #include "runtime/random.h"
@@ -85,6 +86,7 @@ struct World {
     void fresh(quint64 seed = 1)
     {
         unloadAll();
+        FullScreen::setOn(false); // a test that pressed F11 leaves no full screen behind
         Module1::reset();
         Random::fixSeed(seed);
         // No test makes a sound; one that listens unmutes and records.

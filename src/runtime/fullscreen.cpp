@@ -165,6 +165,12 @@ QWidget* hostOf(const Form* form)
     return nullptr;
 }
 
+const Form* hostedBy(const QWidget* window)
+{
+    const auto* host = dynamic_cast<const ScreenHost*>(window);
+    return host ? host->form() : nullptr;
+}
+
 void installKey()
 {
     static ToggleKey key;

@@ -21,6 +21,9 @@ void prepare(Form* form);
 
 // The full-screen window behind a screen, or nullptr.
 QWidget* hostOf(const Form* form);
+// Whether a window is the full-screen window behind a screen; if so, the
+// screen it stands behind.
+const Form* hostedBy(const QWidget* window);
 
 // Lets F11 toggle full screen on every window of the program.
 void installKey();

@@ -3,6 +3,7 @@
 #include "runtime/form.h"
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"
+#include "runtime/fullscreen.h"
 #include "shell/activityform.h"
 #include "shell/module1.h"
 
@@ -79,6 +80,12 @@ OnShow onShow()
     for (QWidget* w : QApplication::topLevelWidgets()) {
         if (!w->isVisible() || isTransient(w))
             continue;
+        if (const Form* screen = FullScreen::hostedBy(w)) {
+            // A full-screen backdrop belongs to its screen and is on show with it.
+            if (!screen->isVisible())
+                shown.screens << w;
+            continue;
+        }
         (isOverlay(w) ? shown.overlays : shown.screens) << w;
     }
     if (QWindow* modal = QGuiApplication::modalWindow())
