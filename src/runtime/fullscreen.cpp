@@ -36,7 +36,8 @@ public:
         QObject::connect(form, &QObject::destroyed, this, &QObject::deleteLater);
     }
 
-    Form* form() const { return m_form; }
+    // The screen, while it is one (not while it is being taken down).
+    Form* form() const { return qobject_cast<Form*>(m_form.data()); }
 
     // Puts this window over the display, and the screen over the middle of it.
     void cover()
@@ -57,7 +58,7 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (watched == m_form) {
+        if (watched == m_form.data()) {
             if (event->type() == QEvent::Show)
                 cover();
             else if (event->type() == QEvent::Hide)
@@ -69,12 +70,14 @@ protected:
     void closeEvent(QCloseEvent* event) override
     {
         event->ignore();
-        if (event->spontaneous() && m_form)
-            m_form->pressCloseBox();
+        if (Form* screen = form(); event->spontaneous() && screen)
+            screen->pressCloseBox();
     }
 
 private:
-    QPointer<Form> m_form;
+    // Held as a widget: the filter still sees the screen's last events while
+    // it is being taken down, when it is no longer a Form.
+    QPointer<QWidget> m_form;
 };
 
 class ToggleKey : public QObject {

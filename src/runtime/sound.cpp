@@ -33,7 +33,7 @@ void tellOnce(const QString& why)
 #ifndef NDEBUG
     static bool told = false;
     if (!told)
-        qWarning().noquote() << QStringLiteral("Partitude plays no sound: %1").arg(why);
+        qInfo().noquote() << QStringLiteral("Partitude plays no sound: %1").arg(why);
     told = true;
 #else
     Q_UNUSED(why);
