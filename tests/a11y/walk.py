@@ -139,7 +139,8 @@ def answer_one_question(app, end):
     target = count // PARTS[asked.group(1)]
     for picture in pictures[:target]:
         press(picture)
-    wait_for(f"{target} pictures chosen", lambda: len(find(app, lambda s: (m := PICTURE.match(s)) and m.group("state") == "chosen")) == target, end)
+    chosen = lambda s: (m := PICTURE.match(s)) and m.group("state") == "chosen"
+    wait_for(f"{target} pictures chosen", lambda: len(find(app, chosen)) == target, end)
     press(find_one(app, "Check Answers", Atspi.Role.PUSH_BUTTON, end))
 
 

@@ -156,12 +156,15 @@ private slots:
         const QStringList missingAssets{"--assets", "/nonexistent", "--settings", "<settings>"};
         const QStringList saysWhatIsMissing{QDir::toNativeSeparators("ico/fraction.ico"), QDir::toNativeSeparators("/nonexistent")};
         QTest::newRow("assets missing, offscreen") << missingAssets << offscreen << kFatalExit << saysWhatIsMissing;
-        QTest::newRow("assets missing, minimal") << missingAssets << QStringList{"QT_QPA_PLATFORM=minimal"} << kFatalExit << saysWhatIsMissing;
+        QTest::newRow("assets missing, minimal")
+            << missingAssets << QStringList{"QT_QPA_PLATFORM=minimal"} << kFatalExit << saysWhatIsMissing;
         QTest::newRow("a stray word") << QStringList{"--settings", "<settings>", "fractions"} << offscreen << kUsageExit
                                       << QStringList{"fractions", "Usage:"};
-        const std::pair<const char*, const char*> scales[] = {{"0", "above 0"}, {"-2", "above 0"}, {"100", "too large"}, {"7", "would not fit"}, {"twice", "needs a number"}};
+        const std::pair<const char*, const char*> scales[]
+            = {{"0", "above 0"}, {"-2", "above 0"}, {"100", "too large"}, {"7", "would not fit"}, {"twice", "needs a number"}};
         for (const auto& [value, says] : scales)
-            QTest::addRow("--scale %s", value) << QStringList{"--settings", "<settings>", "--scale", value} << offscreen << kUsageExit << QStringList{says};
+            QTest::addRow("--scale %s", value)
+                << QStringList{"--settings", "<settings>", "--scale", value} << offscreen << kUsageExit << QStringList{says};
         QTest::newRow("an unknown option") << QStringList{"--colour", "red"} << offscreen << kUsageExit << QStringList{"colour", "Usage:"};
     }
     void theProgramEndsWithItsOwnWords()

@@ -197,7 +197,8 @@ private slots:
         const QStringList before = TestSupport::visibleForms();
         QTest::keyPress(form->focusWidget() ? form->focusWidget() : form, Qt::Key_Escape); // the screen may go before the key is up
         TestSupport::flushUnloads();
-        QCOMPARE(TestSupport::visibleForms(), s.afterEscape ? QString::fromLatin1(s.afterEscape).split(QLatin1Char(','), Qt::SkipEmptyParts) : before);
+        const QStringList after = s.afterEscape ? QString::fromLatin1(s.afterEscape).split(QLatin1Char(','), Qt::SkipEmptyParts) : before;
+        QCOMPARE(TestSupport::visibleForms(), after);
         QVERIFY(!Forms::programEnded());
     }
 

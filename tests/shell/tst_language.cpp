@@ -119,7 +119,8 @@ private slots:
         shape.top = 3;
         QTest::newRow("colour") << shape.instruction() << QStringLiteral("Colorie trois quarts du carré.");
         QTest::newRow("coloured one") << HalvesShapes::hint(shape, 1)
-                                      << QStringLiteral("Le carré est coupé en 4 parts égales. Trois quarts, c'est 3 de ces parts. Tu en as colorié 1.");
+                                      << QStringLiteral("Le carré est coupé en 4 parts égales. Trois quarts, c'est 3 de ces "
+                                                        "parts. Tu en as colorié 1.");
         QTest::newRow("wrong") << HalvesShapes::check(shape, 1).statement
                                << QStringLiteral("Tu as colorié 1 des 4 parts\u00a0: cela fait un quart. Trois quarts, c'est 3 parts.");
         shape.top = 1;
