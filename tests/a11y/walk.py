@@ -1,15 +1,11 @@
 #!/usr/bin/python3
-"""Plays Partitude from outside, as a screen reader user would, by accessible
-names alone: the title screen's OK, the year menu's "Year 2", the Year 2
-menu's "Halves and Quarters 1", Start, then one question of Halves and
-Quarters answered right (the question heard as it appears and read from the
-instruction, the pictures counted by their names, the right number of them
-pressed), and the praise heard as an alert when it appears.
+"""Plays Partitude from outside by accessible names alone, as a screen reader
+user would: OK, "Year 2", "Halves and Quarters 1", Start, one question answered
+right from the announced instruction and the pictures' names, and the praise
+heard as an alert.
 
-Runs inside a session whose accessibility bus is starting (see walk.sh):
-waits for the bus, switches accessibility on, starts the program and talks
-to it over AT-SPI. Exit status: 0 passed, 1 failed, 77 skipped (no AT-SPI
-library for Python).
+Runs in a session whose accessibility bus is starting (see walk.sh). Exit
+status: 0 passed, 1 failed, 77 skipped (no AT-SPI library for Python).
 """
 import argparse
 import os
@@ -20,9 +16,7 @@ import time
 import warnings
 
 SKIP = 77
-# get_action_name is the name libatspi 2.46 marks old; it is still the one
-# every version has.
-warnings.filterwarnings("ignore", category=DeprecationWarning)
+warnings.filterwarnings("ignore", category=DeprecationWarning)  # get_action_name: old, but in every version
 try:
     import gi
 
@@ -34,10 +28,7 @@ except (ImportError, ValueError) as missing:
 
 A11Y_BUS = "org.a11y.Bus"
 POLL_SECONDS = 0.05
-
-# "Click on one half of the ducks": how many parts the pictures are cut into.
-PARTS = {"one half": 2, "one quarter": 4}
-# "duck 3 of 12, not chosen"
+PARTS = {"one half": 2, "one quarter": 4}  # "Click on one half of the ducks"
 PICTURE = re.compile(r"^(?P<what>.+) (?P<place>\d+) of (?P<count>\d+), (?P<state>chosen|not chosen)$")
 
 
@@ -45,48 +36,29 @@ class Failed(Exception):
     pass
 
 
-class Deadline:
-    def __init__(self, seconds):
-        self.end = time.monotonic() + seconds
-
-    def left(self):
-        return self.end - time.monotonic()
-
-
-def pump():
-    """Lets GLib deliver what has arrived (events, replies)."""
+def wait_for(what, probe, end):
+    """Asks probe() until it gives something, letting GLib deliver events, until the monotonic end."""
     context = GLib.MainContext.default()
-    while context.pending():
-        context.iteration(False)
-
-
-def wait_for(what, probe, deadline):
-    """Asks probe() until it gives something, within the deadline."""
-    started = time.monotonic()
     while True:
-        pump()
+        while context.pending():
+            context.iteration(False)
         found = probe()
         if found:
-            waited = time.monotonic() - started
-            if waited > 1:
-                print(f"({waited:.1f} s for {what})")
             return found
-        if deadline.left() <= 0:
+        if time.monotonic() >= end:
             raise Failed(f"timed out waiting for {what}")
         time.sleep(POLL_SECONDS)
 
 
-def switch_accessibility_on(deadline):
-    """Waits until the session's accessibility bus is up, then turns it on."""
+def switch_accessibility_on(end):
     bus = Gio.bus_get_sync(Gio.BusType.SESSION, None)
 
     def owned():
-        reply = bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-                              "NameHasOwner", GLib.Variant("(s)", (A11Y_BUS,)), GLib.VariantType("(b)"),
-                              Gio.DBusCallFlags.NONE, -1, None)
-        return reply.unpack()[0]
+        return bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameHasOwner",
+                             GLib.Variant("(s)", (A11Y_BUS,)), GLib.VariantType("(b)"), Gio.DBusCallFlags.NONE, -1,
+                             None).unpack()[0]
 
-    wait_for("the accessibility bus", owned, deadline)
+    wait_for("the accessibility bus", owned, end)
     bus.call_sync(A11Y_BUS, "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
                   GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", True))),
                   None, Gio.DBusCallFlags.NONE, -1, None)
@@ -99,18 +71,12 @@ def children(node):
         return []  # gone while we looked
 
 
-def showing(node):
-    states = node.get_state_set()
-    return states.contains(Atspi.StateType.SHOWING) and states.contains(Atspi.StateType.VISIBLE)
-
-
 def walk(node):
     """Every object under node that is on the screen."""
     for child in children(node):
-        if child is None:
-            continue
         try:
-            if not showing(child):
+            states = child.get_state_set() if child is not None else None
+            if states is None or not (states.contains(Atspi.StateType.SHOWING) and states.contains(Atspi.StateType.VISIBLE)):
                 continue
         except GLib.Error:
             continue
@@ -131,12 +97,8 @@ def find(app, match, role=None):
     return [n for n in walk(app) if match(name_of(n)) and (role is None or n.get_role() == role)]
 
 
-def find_one(app, name, role, deadline):
-    def probe():
-        found = find(app, lambda n: n == name, role)
-        return found[0] if found else None
-
-    return wait_for(f"{role.value_nick} \"{name}\"", probe, deadline)
+def find_one(app, name, role, end):
+    return wait_for(f"{role.value_nick} \"{name}\"", lambda: next(iter(find(app, lambda n: n == name, role)), None), end)
 
 
 def press(node):
@@ -144,17 +106,15 @@ def press(node):
     if "Action" not in node.get_interfaces():
         raise Failed(f"\"{name_of(node)}\" cannot be pressed")
     names = [Atspi.Action.get_action_name(node, i).lower() for i in range(Atspi.Action.get_n_actions(node))]
-    for wanted in ("press", "toggle", "click"):
-        if wanted in names:
-            Atspi.Action.do_action(node, names.index(wanted))
-            return
-    raise Failed(f"\"{name_of(node)}\" offers no press, only {names}")
+    wanted = next((w for w in ("press", "toggle", "click") if w in names), None)
+    if wanted is None:
+        raise Failed(f"\"{name_of(node)}\" offers no press, only {names}")
+    Atspi.Action.do_action(node, names.index(wanted))
 
 
-def find_program(pid, deadline):
+def find_program(pid, end):
     def probe():
-        desktop = Atspi.get_desktop(0)
-        for app in children(desktop):
+        for app in children(Atspi.get_desktop(0)):
             try:
                 if app is not None and app.get_process_id() == pid and app.get_child_count() > 0:
                     return app
@@ -162,32 +122,26 @@ def find_program(pid, deadline):
                 continue
         return None
 
-    return wait_for("the program on the accessibility bus", probe, deadline)
+    return wait_for("the program on the accessibility bus", probe, end)
 
 
-def answer_one_question(app, deadline):
+def answer_one_question(app, end):
     """Reads the question, presses the right number of pictures, checks."""
-    instruction = wait_for("the question", lambda: find(app, lambda s: s.startswith("Click on ")), deadline)[0]
-    asked = re.match(r"^Click on (one half|one quarter) of the (.+)$", name_of(instruction))
+    instruction = name_of(wait_for("the question", lambda: find(app, lambda s: s.startswith("Click on ")), end)[0])
+    asked = re.match(r"^Click on (one half|one quarter) of the (.+)$", instruction)
     if not asked:
-        raise Failed(f"a question that cannot be read: \"{name_of(instruction)}\"")
-    pictures = wait_for("the pictures", lambda: find(app, PICTURE.match), deadline)
+        raise Failed(f"a question that cannot be read: \"{instruction}\"")
+    pictures = wait_for("the pictures", lambda: find(app, PICTURE.match), end)
     count = int(PICTURE.match(name_of(pictures[0])).group("count"))
-    if len(pictures) != count:
-        raise Failed(f"{len(pictures)} pictures on the board, but they say {count}")
     places = sorted(int(PICTURE.match(name_of(p)).group("place")) for p in pictures)
     if places != list(range(1, count + 1)):
-        raise Failed(f"the pictures' places are {places}")
+        raise Failed(f"the pictures' places are {places}, but they say {count} pictures")
     target = count // PARTS[asked.group(1)]
-    print(f"question: \"{name_of(instruction)}\": {count} pictures, choosing {target}")
     for picture in pictures[:target]:
         press(picture)
-    chosen = wait_for(f"{target} pictures chosen",
-                      lambda: (lambda c: c if len(c) == target else None)(
-                          find(app, lambda s: (m := PICTURE.match(s)) is not None and m.group("state") == "chosen")),
-                      deadline)
-    print(f"chosen: {', '.join(name_of(c) for c in chosen)}")
-    press(find_one(app, "Check Answers", Atspi.Role.PUSH_BUTTON, deadline))
+    chosen = lambda s: (m := PICTURE.match(s)) and m.group("state") == "chosen"
+    wait_for(f"{target} pictures chosen", lambda: len(find(app, chosen)) == target, end)
+    press(find_one(app, "Check Answers", Atspi.Role.PUSH_BUTTON, end))
 
 
 def main():
@@ -196,9 +150,9 @@ def main():
     parser.add_argument("--settings", required=True, help="a settings folder for the program")
     parser.add_argument("--timeout", type=float, default=40, help="seconds for the whole walk")
     args = parser.parse_args()
-    deadline = Deadline(args.timeout)
+    end = time.monotonic() + args.timeout
 
-    switch_accessibility_on(deadline)
+    switch_accessibility_on(end)
     env = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb")
     program = subprocess.Popen([args.program, "--settings", args.settings], env=env)
     announced = []
@@ -210,22 +164,15 @@ def main():
     listener = Atspi.EventListener.new(heard)
     listener.register("object:state-changed:showing")
     try:
-        app = find_program(program.pid, deadline)
-        print(f"found the program: \"{name_of(app)}\"")
-        press(find_one(app, "OK", Atspi.Role.PUSH_BUTTON, deadline))
-        find_one(app, "Partitude logo", Atspi.Role.IMAGE, deadline)  # pictures are images, named
-        press(find_one(app, "Year 2", Atspi.Role.PUSH_BUTTON, deadline))
-        press(find_one(app, "Halves and Quarters 1", Atspi.Role.PUSH_BUTTON, deadline))
-        press(find_one(app, "Start", Atspi.Role.PUSH_BUTTON, deadline))
-        wait_for("the question announced", lambda: [a for a in announced if a.startswith("Click on ")], deadline)
-        answer_one_question(app, deadline)
-
-        praise = wait_for("the praise, as an alert",
-                          lambda: [n for n in find(app, lambda s: "You chose" in s) if n.get_role() == Atspi.Role.ALERT],
-                          deadline)
-        print(f"on the screen: \"{name_of(praise[0])}\"")
-        wait_for("the praise announced", lambda: [a for a in announced if "You chose" in a], deadline)
-        print("announced: yes")
+        app = find_program(program.pid, end)
+        press(find_one(app, "OK", Atspi.Role.PUSH_BUTTON, end))
+        find_one(app, "Partitude logo", Atspi.Role.IMAGE, end)  # pictures are images, named
+        for button in ("Year 2", "Halves and Quarters 1", "Start"):
+            press(find_one(app, button, Atspi.Role.PUSH_BUTTON, end))
+        wait_for("the question announced", lambda: [a for a in announced if a.startswith("Click on ")], end)
+        answer_one_question(app, end)
+        wait_for("the praise, as an alert", lambda: find(app, lambda s: "You chose" in s, Atspi.Role.ALERT), end)
+        wait_for("the praise announced", lambda: [a for a in announced if "You chose" in a], end)
         if program.poll() is not None:
             raise Failed(f"the program ended with {program.returncode}")
         print("walk passed")

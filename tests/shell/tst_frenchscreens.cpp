@@ -1,7 +1,5 @@
-// With the French translation installed, the title screen, the year menu, a
-// menu of activities and two activities part way through a question show no
-// English: every word a child sees or hears is French (or the same in both
-// languages, as "Partitude", "OK" or the numbers).
+// With French installed, five screens (two part way through a question) show
+// no English: every word seen or heard is French or the same in both languages.
 #include "activities/halvesshapes/shapesboard.h"
 #include "activities/halvesshapes/y2fractions2.h"
 #include "activities/mixed/y5fract4.h"
@@ -22,37 +20,17 @@
 #include <QTextDocumentFragment>
 #include <QtTest>
 
-class TestFrenchScreens : public QObject {
-    Q_OBJECT
-private slots:
-    void initTestCase();
-    void cleanupTestCase() { Language::remove(); }
-    void init() { world.fresh(5); }
-    void screenSpeaksFrench_data();
-    void screenSpeaksFrench();
-
-private:
-    QStringList englishIn(const QString& text) const;
-
-    TestSupport::World world;
-    QSet<QString> m_englishWords;   // words of the English texts that no French text has
-    QSet<QString> m_englishSources; // English texts whose French differs
-};
-
 namespace {
 QStringList wordsOf(const QString& text)
 {
     static const QRegularExpression notLetters(QStringLiteral("[^\\p{L}]+"));
-    QStringList words;
-    for (const QString& w : text.toLower().split(notLetters, Qt::SkipEmptyParts))
-        if (w.size() > 1)
-            words << w;
+    QStringList words = text.toLower().split(notLetters, Qt::SkipEmptyParts);
+    words.removeIf([](const QString& w) { return w.size() < 2; });
     return words;
 }
 
-// Everything a screen shows or says: its title, each visible control's
-// words, tip, and the names and descriptions a screen reader reads (of the
-// control and of the parts inside it).
+// Everything a screen shows or says: title, each visible control's words and
+// tip, and what a screen reader reads of it and of the parts inside it.
 QStringList shownTexts(QWidget* form)
 {
     QStringList texts{form->windowTitle()};
@@ -68,16 +46,24 @@ QStringList shownTexts(QWidget* form)
             texts << button->text();
         if (auto* box = qobject_cast<QLineEdit*>(w))
             texts << box->placeholderText();
-        if (QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(w)) {
-            texts << spoken->text(QAccessible::Name) << spoken->text(QAccessible::Description);
-            for (int i = 0; i < spoken->childCount(); ++i)
-                if (QAccessibleInterface* part = spoken->child(i))
-                    texts << part->text(QAccessible::Name) << part->text(QAccessible::Description);
-        }
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(w);
+        for (int i = -1; spoken && i < spoken->childCount(); ++i)
+            if (QAccessibleInterface* part = i < 0 ? spoken : spoken->child(i))
+                texts << part->text(QAccessible::Name) << part->text(QAccessible::Description);
     }
     texts.removeAll(QString());
     texts.removeDuplicates();
     return texts;
+}
+
+// An activity opened from its menu and started.
+template <class Screen> Screen* started(const char* menu, const char* button)
+{
+    Forms::show(QString::fromLatin1(menu))->findChild<QPushButton*>(QString::fromLatin1(button))->click();
+    TestSupport::flushUnloads();
+    auto* form = Forms::find<Screen>();
+    form->cmdstart_Click();
+    return form;
 }
 
 Form* openScreen(const QString& which)
@@ -88,84 +74,82 @@ Form* openScreen(const QString& which)
         return Forms::show<Year>();
     if (which == QLatin1String("Year 2 menu"))
         return Forms::show(QStringLiteral("y2Intro"));
-    if (which == QLatin1String("Halves and Quarters 2")) {
-        // From its menu, started, one part coloured and a hint asked for.
-        Forms::show(QStringLiteral("y2Intro"))->findChild<QPushButton*>(QStringLiteral("Command2"))->click();
-        TestSupport::flushUnloads();
-        auto* form = Forms::find<Y2fractions2>();
-        form->cmdstart_Click();
+    if (which == QLatin1String("Halves and Quarters 2")) { // one part coloured and a hint asked for
+        auto* form = started<Y2fractions2>("y2Intro", "Command2");
         static_cast<ShapesBoard*>(form->board())->Shape1->togglePart(0);
         form->cmdhint_Click();
         return form;
     }
-    // Mixed numbers, from its menu, started and a hint asked for.
-    Forms::show(QStringLiteral("y5Intro2"))->findChild<QPushButton*>(QStringLiteral("Command1"))->click();
-    TestSupport::flushUnloads();
-    auto* form = Forms::find<y5fract4>();
-    form->cmdstart_Click();
+    auto* form = started<y5fract4>("y5Intro2", "Command1"); // mixed numbers, a hint asked for
     form->cmdhint_Click();
     return form;
 }
 } // namespace
 
-void TestFrenchScreens::initTestCase()
-{
-    QCOMPARE(Language::install(QLocale(QLocale::French, QLocale::France)), QStringLiteral("fr"));
-    const QList<TranslationFile::Message> messages = TranslationFile::read(TranslationFile::path(QStringLiteral("fr")));
-    QVERIFY(!messages.isEmpty());
-    QSet<QString> frenchWords;
-    for (const TranslationFile::Message& m : messages) {
-        for (const QString& form : m.forms) {
-            for (const QString& w : wordsOf(form))
-                frenchWords << w;
-            if (form != m.source)
-                m_englishSources << m.source;
-        }
+class TestFrenchScreens : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase()
+    {
+        QCOMPARE(Language::install(QLocale(QLocale::French, QLocale::France)), QStringLiteral("fr"));
+        const QList<TranslationFile::Message> messages = TranslationFile::read(TranslationFile::path(QStringLiteral("fr")));
+        QSet<QString> frenchWords;
+        for (const TranslationFile::Message& m : messages)
+            for (const QString& form : m.forms) {
+                for (const QString& w : wordsOf(form))
+                    frenchWords << w;
+                if (form != m.source)
+                    m_englishSources << m.source;
+            }
+        for (const TranslationFile::Message& m : messages)
+            for (const QString& w : wordsOf(m.source))
+                if (!frenchWords.contains(w))
+                    m_englishWords << w;
+        // The words that give English away are there to be found.
+        QVERIFY(m_englishWords.contains(QStringLiteral("goodbye")) && m_englishWords.contains(QStringLiteral("quarters")));
     }
-    for (const TranslationFile::Message& m : messages)
-        for (const QString& w : wordsOf(m.source))
-            if (!frenchWords.contains(w))
-                m_englishWords << w;
-    // The words that give English away are there to be found.
-    QVERIFY(m_englishWords.contains(QStringLiteral("goodbye")) && m_englishWords.contains(QStringLiteral("quarters")));
-}
+    void cleanupTestCase() { Language::remove(); }
+    void init() { world.fresh(5); }
 
-QStringList TestFrenchScreens::englishIn(const QString& text) const
-{
-    QStringList found;
-    if (m_englishSources.contains(text))
-        found << text;
-    // A web address is an address in every language.
-    static const QRegularExpression webAddress(QStringLiteral("(https?://|www\\.)\\S+"));
-    for (const QString& w : wordsOf(QString(text).remove(webAddress)))
-        if (m_englishWords.contains(w))
-            found << w;
-    return found;
-}
+    void screenSpeaksFrench_data()
+    {
+        QTest::addColumn<QString>("screen");
+        QTest::addColumn<QString>("aFrenchText");
+        QTest::newRow("title screen") << "title" << QStringLiteral("Sortir");
+        QTest::newRow("year menu") << "year menu" << QStringLiteral("CE1");
+        QTest::newRow("Year 2 menu") << "Year 2 menu" << QStringLiteral("Demis et quarts 2");
+        QTest::newRow("Halves and Quarters 2, a hint") << "Halves and Quarters 2" << QStringLiteral("Indice");
+        QTest::newRow("mixed numbers, a hint") << "mixed numbers" << QStringLiteral("Vérifier");
+    }
+    void screenSpeaksFrench()
+    {
+        QFETCH(QString, screen);
+        QFETCH(QString, aFrenchText);
+        Form* form = openScreen(screen);
+        QVERIFY(form && form->isVisible());
+        const QStringList texts = shownTexts(form);
+        QVERIFY2(texts.contains(aFrenchText), qPrintable(texts.join(QStringLiteral(" | "))));
+        for (const QString& text : texts)
+            QVERIFY2(englishIn(text).isEmpty(), qPrintable(QStringLiteral("\"%1\" is English: %2").arg(text, englishIn(text).join(", "))));
+    }
 
-void TestFrenchScreens::screenSpeaksFrench_data()
-{
-    QTest::addColumn<QString>("screen");
-    QTest::addColumn<QString>("aFrenchText");
-    QTest::newRow("title screen") << "title" << QStringLiteral("Sortir");
-    QTest::newRow("year menu") << "year menu" << QStringLiteral("CE1");
-    QTest::newRow("Year 2 menu") << "Year 2 menu" << QStringLiteral("Demis et quarts 2");
-    QTest::newRow("Halves and Quarters 2, a hint") << "Halves and Quarters 2" << QStringLiteral("Indice");
-    QTest::newRow("mixed numbers, a hint") << "mixed numbers" << QStringLiteral("Vérifier");
-}
+private:
+    QStringList englishIn(const QString& text) const
+    {
+        QStringList found;
+        if (m_englishSources.contains(text))
+            found << text;
+        static const QRegularExpression webAddress(QStringLiteral("(https?://|www\\.)\\S+")); // the same in every language
+        for (const QString& w : wordsOf(QString(text).remove(webAddress)))
+            if (m_englishWords.contains(w))
+                found << w;
+        return found;
+    }
 
-void TestFrenchScreens::screenSpeaksFrench()
-{
-    QFETCH(QString, screen);
-    QFETCH(QString, aFrenchText);
-    Form* form = openScreen(screen);
-    QVERIFY(form && form->isVisible());
-    const QStringList texts = shownTexts(form);
-    QVERIFY2(texts.contains(aFrenchText), qPrintable(texts.join(QStringLiteral(" | "))));
-    for (const QString& text : texts)
-        QVERIFY2(englishIn(text).isEmpty(),
-                 qPrintable(QStringLiteral("\"%1\" is English: %2").arg(text, englishIn(text).join(QStringLiteral(", ")))));
-}
+    TestSupport::World world;
+    QSet<QString> m_englishWords;   // words of the English texts that no French text has
+    QSet<QString> m_englishSources; // English texts whose French differs
+};
 
 QTEST_MAIN(TestFrenchScreens)
 #include "tst_frenchscreens.moc"

@@ -1,6 +1,5 @@
-// Full screen: each screen centred over a window of its back colour that
-// covers the display; F11 on any screen turns it on and off; the window
-// behind follows its screen and passes its close box on.
+// Full screen: each screen centred over a window of its back colour covering
+// the display; F11 turns it on and off; the window behind follows its screen.
 #include "runtime/form.h"
 #include "runtime/fullscreen.h"
 #include "runtime/options.h"
@@ -13,14 +12,17 @@
 #include <QScreen>
 #include <QtTest>
 
-namespace {
-QRect displayRect() { return QGuiApplication::primaryScreen()->geometry(); }
-} // namespace
-
 class TestFullScreen : public QObject {
     Q_OBJECT
 private slots:
     void initTestCase() { FullScreen::installKey(); }
+
+    void init()
+    {
+        world.fresh();
+        Module1::version = Module1::soundsetting = QStringLiteral("0");
+        Module1::yearlabel = QStringLiteral("Year 2");
+    }
 
     void cleanup()
     {
@@ -45,23 +47,18 @@ private slots:
     {
         QFETCH(QString, screen);
         QFETCH(double, scale);
-        world.fresh();
         Twips::setScale(scale);
-        Module1::version = Module1::soundsetting = QStringLiteral("0");
-        Module1::yearlabel = QStringLiteral("Year 2");
         FullScreen::setOn(true);
         Form* form = Forms::show(screen);
         QWidget* host = FullScreen::hostOf(form);
-        QVERIFY(host);
-        QVERIFY(host->isVisible());
-        QCOMPARE(host->geometry(), displayRect());
+        QVERIFY(host && host->isVisible() && host->autoFillBackground());
+        const QRect display = QGuiApplication::primaryScreen()->geometry();
+        QCOMPARE(host->geometry(), display);
         QCOMPARE(host->palette().color(QPalette::Window), form->backColour());
-        QVERIFY(host->autoFillBackground());
-        QVERIFY(form->windowFlags().testFlag(Qt::FramelessWindowHint));
-        QVERIFY(form->isVisible());
-        const QPoint off = form->geometry().center() - displayRect().center();
+        QVERIFY(form->isVisible() && form->windowFlags().testFlag(Qt::FramelessWindowHint));
+        const QPoint off = form->geometry().center() - display.center();
         QVERIFY2(off.manhattanLength() <= 1, qPrintable(QStringLiteral("%1,%2").arg(off.x()).arg(off.y())));
-        // The screen keeps its own size, and its controls their places.
+        // The screen keeps its own size.
         const QSize framed = form->size();
         FullScreen::setOn(false);
         QCOMPARE(form->size(), framed);
@@ -70,15 +67,9 @@ private slots:
 
     void f11Toggles()
     {
-        world.fresh();
-        Module1::version = Module1::soundsetting = QStringLiteral("0");
         Form* year = Forms::show(QStringLiteral("Year"));
-        QVERIFY(!FullScreen::isOn());
-        QVERIFY(!FullScreen::hostOf(year));
-
         {
-            // Not while a message box waits for an answer.
-            QDialog message;
+            QDialog message; // not while a message box waits for an answer
             message.setModal(true);
             message.show();
             QTest::keyClick(year, Qt::Key_F11);
@@ -87,26 +78,20 @@ private slots:
         QTest::keyClick(year, Qt::Key_F11);
         QVERIFY(FullScreen::isOn());
         QWidget* host = FullScreen::hostOf(year);
-        QVERIFY(host && host->isVisible());
-        QVERIFY(year->isVisible());
-        QVERIFY(year->windowFlags().testFlag(Qt::FramelessWindowHint));
-
-        // The next screen comes up full screen too.
+        QVERIFY(host && host->isVisible() && year->isVisible());
+        // The next screen comes up full screen too; F11 there ends it.
         Form* title = Forms::showAndUnload(QStringLiteral("Titlefrm"), year);
         TestSupport::flushUnloads();
         QVERIFY(FullScreen::hostOf(title));
         QTest::keyClick(title, Qt::Key_F11);
         QVERIFY(!FullScreen::isOn());
         QVERIFY(!FullScreen::hostOf(title));
-        QVERIFY(title->isVisible());
         QVERIFY(!title->windowFlags().testFlag(Qt::FramelessWindowHint));
         QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("Titlefrm")});
     }
 
     void hostFollowsItsScreen()
     {
-        world.fresh();
-        Module1::version = Module1::soundsetting = QStringLiteral("0");
         FullScreen::setOn(true);
         Form* menu = Forms::show(QStringLiteral("y2Intro"));
         QPointer<QWidget> host = FullScreen::hostOf(menu);
@@ -119,15 +104,13 @@ private slots:
         TestSupport::pressCloseBox(host);
         TestSupport::flushUnloads(); // the screen goes,
         TestSupport::flushUnloads(); // and then the window behind it
-        QVERIFY(!Forms::isLoaded(QStringLiteral("y2Intro")));
-        QVERIFY(host.isNull());
-        QVERIFY(Forms::isLoaded(QStringLiteral("Year")));
-        QVERIFY(FullScreen::hostOf(Forms::find(QStringLiteral("Year"))));
+        QVERIFY(!Forms::isLoaded(QStringLiteral("y2Intro")) && host.isNull());
+        Form* year = Forms::find(QStringLiteral("Year"));
+        QVERIFY(year && FullScreen::hostOf(year));
     }
 
     void panelsStayFramed()
     {
-        world.fresh();
         FullScreen::setOn(true);
         Form* retry = Forms::show(QStringLiteral("Reward"));
         QVERIFY(!FullScreen::hostOf(retry));
@@ -135,8 +118,7 @@ private slots:
         QVERIFY(retry->windowFlags().testFlag(Qt::FramelessWindowHint));
     }
 
-    // Start-up takes the scale asked for, or picks one for the display, and
-    // shows the title screen full screen when asked.
+    // Start-up takes the scale asked for, or picks one, and goes full screen when asked.
     void startUp_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -152,7 +134,6 @@ private slots:
         QFETCH(QStringList, arguments);
         QFETCH(double, scale);
         QFETCH(bool, full);
-        world.fresh();
         ScreenFit::pretendAvailable(QRect(0, 0, 1920, 1040));
         StartOptions options = parseArguments(QStringList{QStringLiteral("partitude")} + arguments);
         options.assetFolder = QStringLiteral(PARTITUDE_TEST_ASSETS);

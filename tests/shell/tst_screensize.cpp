@@ -1,6 +1,5 @@
-// Every screen, at the scale picked for small and large displays and at
-// scales asked for by hand, lies wholly on the display, and every control it
-// shows lies wholly inside it.
+// Every screen, at the scale picked for small and large displays and at scales
+// asked for by hand, lies wholly on the display, and its controls inside it.
 #include "runtime/form.h"
 #include "runtime/screenfit.h"
 #include "runtime/twips.h"
@@ -12,32 +11,16 @@
 
 namespace {
 
-// The screen's outer rectangle on the display: its designed size where it
-// has one (title bar and border included), else the window itself.
-QRect outerRect(const Form* form)
-{
-    if (form->designWidth() > 0)
-        return QRect(form->pos(), QSize(Twips::toPixels(form->designWidth()), Twips::toPixels(form->designHeight())));
-    return form->frameGeometry();
-}
+QString describe(const QRect& r) { return QStringLiteral("%1,%2 %3 x %4").arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height()); }
 
 // The visible controls of a screen that stick out of it.
-QStringList outside(const Form* form)
+QStringList outside(Form* form)
 {
     QStringList offenders;
     for (const QWidget* w : form->findChildren<QWidget*>()) {
-        if (w->isWindow() || !w->isVisibleTo(const_cast<Form*>(form)) || w->size().isEmpty())
-            continue;
         const QRect at(w->mapTo(form, QPoint(0, 0)), w->size());
-        if (!form->rect().contains(at))
-            offenders << QStringLiteral("%1 %2 at %3,%4 %5 x %6 in %7 x %8")
-                             .arg(form->objectName(), w->objectName())
-                             .arg(at.x())
-                             .arg(at.y())
-                             .arg(at.width())
-                             .arg(at.height())
-                             .arg(form->width())
-                             .arg(form->height());
+        if (!w->isWindow() && w->isVisibleTo(form) && !at.isEmpty() && !form->rect().contains(at))
+            offenders << QStringLiteral("%1 %2 at %3 in %4").arg(form->objectName(), w->objectName(), describe(at), describe(form->rect()));
     }
     return offenders;
 }
@@ -87,19 +70,15 @@ private slots:
             Module1::activitytitle = QStringLiteral("Place In Order");
             Form* form = Forms::show(name);
             QVERIFY2(form, qPrintable(name));
-            // The timers' screen and the worksheet screens are only loaded,
-            // never shown.
-            if (name == QLatin1String("Grey") || qobject_cast<WorksheetForm*>(form))
+            if (name == QLatin1String("Grey") || qobject_cast<WorksheetForm*>(form)) // loaded, never shown
                 continue;
             ++screens;
-            const QRect outer = outerRect(form);
+            // The outer rectangle: the designed size where there is one (title bar and border included).
+            const QRect outer = form->designWidth() > 0
+                ? QRect(form->pos(), QSize(Twips::toPixels(form->designWidth()), Twips::toPixels(form->designHeight())))
+                : form->frameGeometry();
             if (!available.contains(outer))
-                offenders << QStringLiteral("%1 at %2,%3 %4 x %5 off the display")
-                                 .arg(name)
-                                 .arg(outer.x())
-                                 .arg(outer.y())
-                                 .arg(outer.width())
-                                 .arg(outer.height());
+                offenders << name + QStringLiteral(" at ") + describe(outer) + QStringLiteral(" off the display");
             offenders << outside(form);
             // An activity's board and reward picture appear with Start.
             if (auto* start = form->findChild<QAbstractButton*>(QStringLiteral("cmdstart"))) {
