@@ -1,7 +1,5 @@
-// Checks the six worksheet metafiles drawassets writes: the program's own
-// reader takes each one whole, with nothing in it passed over, at a size
-// that fits the page; each says what the sheet is for and sets exercises
-// that follow the activity's rules. Also checks the generator's own rules.
+// The six worksheet metafiles drawassets writes, read whole by the program's
+// reader, and the rules their exercises follow.
 #include "runtime/metafile.h"
 #include "worksheetexercises.h"
 
@@ -20,15 +18,9 @@ QByteArray readAsset(const QString &relative)
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
-// What the sheet says: the strings of its TEXTOUT and EXTTEXTOUT records in
-// file order, and how many fonts it makes. Only for a file Metafile::parse
-// has taken, so every record and every string lies inside the file and an
-// end record comes before the end.
-struct SheetText
-{
-    QStringList texts;
-    int fonts = 0;
-};
+// The strings of a sheet's TEXTOUT and EXTTEXTOUT records in file order, and
+// how many fonts it makes; only for a file Metafile::parse has taken.
+struct SheetText { QStringList texts; int fonts = 0; };
 
 SheetText sheetText(const QByteArray &bytes)
 {
@@ -51,29 +43,23 @@ enum Kind { Halves, Mixed, Ordering };
 // Halves and Quarters: twelve sets to ring, six halves and six quarters.
 QString halvesProblem(const QStringList &texts)
 {
-    const QRegularExpression ring(
-        QStringLiteral("^Ring one (half|quarter) of the (apples|stars|balls|fish|flowers|kites)\\.$"));
+    const QRegularExpression ring(QStringLiteral("^Ring one (half|quarter) of the (apples|stars|balls|fish|flowers|kites)\\.$"));
     int halves = 0, quarters = 0;
     for (const QString &text : texts) {
         const QRegularExpressionMatch m = ring.match(text);
         halves += m.hasMatch() && m.captured(1) == QLatin1String("half");
         quarters += m.hasMatch() && m.captured(1) == QLatin1String("quarter");
     }
-    if (halves != 6 || quarters != 6)
-        return QStringLiteral("%1 halves, %2 quarters").arg(halves).arg(quarters);
-    return QString();
+    return halves == 6 && quarters == 6 ? QString() : QStringLiteral("%1 halves, %2 quarters").arg(halves).arg(quarters);
 }
 
-// The texts come as the sheet is drawn: a section heading and its worked
-// example, then each exercise's number and its numbers; eight improper
-// fractions n/d, then eight mixed numbers w n/d. Each is in lowest terms,
-// with a whole part of 1 to 5 (improper) or 1 to 9 (mixed), and none twice.
+// Each section's heading and worked example, then its exercises' numbers: eight
+// improper fractions n/d, then eight mixed numbers w n/d, in lowest terms, with
+// a whole part of 1 to 5 (improper) or 1 to 9 (mixed), and none twice.
 QString mixedProblem(const QStringList &t)
 {
-    const QString headings[] = {QStringLiteral("Change to a mixed number."),
-                                QStringLiteral("Change to an improper fraction.")};
-    const QStringList examples[] = {{"For example:", "7", "2", "3", "1", "2"},
-                                    {"For example:", "3", "1", "2", "7", "2"}};
+    const QString headings[] = {QStringLiteral("Change to a mixed number."), QStringLiteral("Change to an improper fraction.")};
+    const QStringList examples[] = {{"For example:", "7", "2", "3", "1", "2"}, {"For example:", "3", "1", "2", "7", "2"}};
     QSet<QString> seen;
     int at = int(t.indexOf(headings[0]));
     for (int n = 1; n <= 16; ++n) {
@@ -98,9 +84,8 @@ QString mixedProblem(const QStringList &t)
     return QString();
 }
 
-// Place In Order: twelve sets of five decimals, in the order the cards are
-// drawn, each of one whole part and all of different value; between them
-// they have one, two and three decimal places.
+// Place In Order: twelve sets of five different decimals of one whole part,
+// with one, two and three decimal places among them.
 QString orderingProblem(const QStringList &texts)
 {
     const QRegularExpression form(QStringLiteral("^([1-5])\\.[1-9]{1,3}$"));
@@ -125,112 +110,100 @@ QString orderingProblem(const QStringList &texts)
     return QString();
 }
 
+// One sheet: its file, the edition's label, title, instruction, the other
+// edition's sheet, and which rules its exercises follow.
+struct SheetRow { QString file, label, title, instruction, twin; Kind kind; };
+
 } // namespace
+
+Q_DECLARE_METATYPE(SheetRow)
 
 class TestWorksheetFiles : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void sheets_data();
-    void sheets();
-    void halvesRules();
-};
-
-void TestWorksheetFiles::sheets_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("instruction");
-    QTest::addColumn<QString>("twin");  // the other edition's sheet
-    QTest::addColumn<int>("kind");
-
-    const QString ring = QStringLiteral("Draw a ring round one half or one quarter of each set, as the box says.");
-    const QString write = QStringLiteral("Write your answers in the boxes.");
-    const QString mixed = QStringLiteral("Mixed Numbers and Improper Fractions");
-    const QString order = QStringLiteral("Write each set of numbers in the boxes in order, smallest first.");
-    QTest::newRow("y2print1") << "y2print1" << "Year 2" << "Halves and Quarters" << ring << "u1print1" << int(Halves);
-    QTest::newRow("u1print1") << "u1print1" << "Unit 1" << "Halves and Quarters" << ring << "y2print1" << int(Halves);
-    QTest::newRow("y5print4") << "y5print4" << "Year 5" << mixed << write << "u4print4" << int(Mixed);
-    QTest::newRow("u4print4") << "u4print4" << "Unit 4" << mixed << write << "y5print4" << int(Mixed);
-    QTest::newRow("y6print3") << "y6print3" << "Year 6" << "Place In Order" << order << "u5print3" << int(Ordering);
-    QTest::newRow("u5print3") << "u5print3" << "Unit 5" << "Place In Order" << order << "y6print3" << int(Ordering);
-}
-
-void TestWorksheetFiles::sheets()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, label);
-    QFETCH(QString, title);
-    QFETCH(QString, instruction);
-    QFETCH(QString, twin);
-    QFETCH(int, kind);
-
-    const QByteArray bytes = readAsset(QStringLiteral("wmf/%1.wmf").arg(file));
-    QVERIFY2(!bytes.isEmpty(), qPrintable(file + QStringLiteral(" is missing")));
-    QString error;
-    const std::optional<Metafile> wmf = Metafile::parse(bytes, &error);
-    QVERIFY2(wmf, qPrintable(error));
-    QVERIFY(wmf->checksumMatches());
-    QCOMPARE(wmf->skippedRecordCount(), 0);  // nothing in it that the program does not draw
-    // The program prints the sheet at its own size 1000 twips in from the
-    // corner, so it must fit A4 (11906 x 16838) and Letter (12240 x 15840)
-    // with that margin on every side; and it is meant to fill most of that.
-    const QSizeF twips = wmf->sizeInTwips();
-    QVERIFY2(twips.width() <= 11906 - 2000 && twips.height() <= 15840 - 2000 && twips.width() > 9000
-                 && twips.height() > 12000,
-             qPrintable(QStringLiteral("%1 x %2 twips").arg(twips.width()).arg(twips.height())));
-
-    const SheetText sheet = sheetText(bytes);
-    QVERIFY(sheet.fonts > 0);  // the text is not left in the player's default font
-    const QStringList &texts = sheet.texts;
-    for (const QString &text : {label, title, instruction, QStringLiteral("Name"), QStringLiteral("Date")})
-        QVERIFY2(texts.contains(text), qPrintable(text + QStringLiteral(" not in ") + texts.join(QLatin1Char('|'))));
-    const QString otherEdition = QLatin1String(label.startsWith(QLatin1String("Year")) ? "Unit" : "Year");
-    for (const QString &text : texts)
-        QVERIFY2(!text.contains(otherEdition), qPrintable(text));
-    for (int n = 1; n <= (kind == Mixed ? 16 : 12); ++n)
-        QVERIFY2(texts.contains(QString::number(n)), qPrintable(QStringLiteral("no exercise %1").arg(n)));
-
-    const QString problem = kind == Halves ? halvesProblem(texts)
-                            : kind == Mixed ? mixedProblem(texts)
-                                            : orderingProblem(texts);
-    QVERIFY2(problem.isEmpty(), qPrintable(problem));
-
-    // The other edition's sheet sets exercises of its own.
-    const QByteArray twinBytes = readAsset(QStringLiteral("wmf/%1.wmf").arg(twin));
-    QVERIFY(Metafile::parse(twinBytes));
-    QStringList mine = texts, theirs = sheetText(twinBytes).texts;
-    mine.removeAll(label);
-    theirs.removeAll(QStringLiteral("%1 %2").arg(otherEdition).arg(twin.at(1)));
-    QVERIFY(!theirs.isEmpty() && mine != theirs);
-}
-
-void TestWorksheetFiles::halvesRules()
-{
-    // The sheet shows no counts as text, so the generator is checked: one
-    // half of an even count, one quarter of a multiple of four, as many
-    // halves as quarters (one more half when the number is odd), and no
-    // picture and no count twice in a row.
-    for (int seed = 1; seed <= 100; ++seed) {
-        Random::Source rng(seed);
-        const int count = 10 + seed % 5;
-        const std::vector<HalvesExercise> sheet = makeHalvesExercises(rng, count, 6);
-        QCOMPARE(int(sheet.size()), count);
-        int halves = 0;
-        for (std::size_t i = 0; i < sheet.size(); ++i) {
-            const HalvesExercise &e = sheet[i];
-            const QString what = QStringLiteral("seed %1: one in %2 of %3 pictures %4")
-                                     .arg(seed).arg(e.parts).arg(e.count).arg(e.picture);
-            QVERIFY2((e.parts == 2 || e.parts == 4) && e.count >= 2 && e.count <= 16 && e.count % e.parts == 0,
-                     qPrintable(what));
-            QVERIFY2(i == 0 || (e.picture != sheet[i - 1].picture && e.count != sheet[i - 1].count), qPrintable(what));
-            halves += e.parts == 2;
-        }
-        QCOMPARE(halves, (count + 1) / 2);
+    void sheets_data()
+    {
+        QTest::addColumn<SheetRow>("row");
+        const QString ring = QStringLiteral("Draw a ring round one half or one quarter of each set, as the box says.");
+        const QString write = QStringLiteral("Write your answers in the boxes.");
+        const QString mixed = QStringLiteral("Mixed Numbers and Improper Fractions");
+        const QString order = QStringLiteral("Write each set of numbers in the boxes in order, smallest first.");
+        for (const SheetRow &r : {SheetRow{"y2print1", "Year 2", "Halves and Quarters", ring, "u1print1", Halves},
+                                  SheetRow{"u1print1", "Unit 1", "Halves and Quarters", ring, "y2print1", Halves},
+                                  SheetRow{"y5print4", "Year 5", mixed, write, "u4print4", Mixed},
+                                  SheetRow{"u4print4", "Unit 4", mixed, write, "y5print4", Mixed},
+                                  SheetRow{"y6print3", "Year 6", "Place In Order", order, "u5print3", Ordering},
+                                  SheetRow{"u5print3", "Unit 5", "Place In Order", order, "y6print3", Ordering}})
+            QTest::newRow(qPrintable(r.file)) << r;
     }
-}
+
+    void sheets()
+    {
+        QFETCH(SheetRow, row);
+        const auto &[file, label, title, instruction, twin, kind] = row;
+
+        const QByteArray bytes = readAsset(QStringLiteral("wmf/%1.wmf").arg(file));
+        QVERIFY2(!bytes.isEmpty(), qPrintable(file + QStringLiteral(" is missing")));
+        QString error;
+        const std::optional<Metafile> wmf = Metafile::parse(bytes, &error);
+        QVERIFY2(wmf, qPrintable(error));
+        QVERIFY(wmf->checksumMatches());
+        QCOMPARE(wmf->skippedRecordCount(), 0);  // nothing in it that the program does not draw
+        // Printed at its own size 1000 twips in from the corner: it fits A4
+        // (11906 x 16838) and Letter (12240 x 15840), and fills most of them.
+        const QSizeF twips = wmf->sizeInTwips();
+        QVERIFY2(twips.width() <= 11906 - 2000 && twips.height() <= 15840 - 2000 && twips.width() > 9000 && twips.height() > 12000,
+                 qPrintable(QStringLiteral("%1 x %2 twips").arg(twips.width()).arg(twips.height())));
+
+        const SheetText sheet = sheetText(bytes);
+        QVERIFY(sheet.fonts > 0);  // the text is not left in the player's default font
+        const QStringList &texts = sheet.texts;
+        for (const QString &text : {label, title, instruction, QStringLiteral("Name"), QStringLiteral("Date")})
+            QVERIFY2(texts.contains(text), qPrintable(text + QStringLiteral(" not in ") + texts.join(QLatin1Char('|'))));
+        const QString otherEdition = QLatin1String(label.startsWith(QLatin1String("Year")) ? "Unit" : "Year");
+        for (const QString &text : texts)
+            QVERIFY2(!text.contains(otherEdition), qPrintable(text));
+        for (int n = 1; n <= (kind == Mixed ? 16 : 12); ++n)
+            QVERIFY2(texts.contains(QString::number(n)), qPrintable(QStringLiteral("no exercise %1").arg(n)));
+
+        const QString problem = kind == Halves ? halvesProblem(texts) : kind == Mixed ? mixedProblem(texts) : orderingProblem(texts);
+        QVERIFY2(problem.isEmpty(), qPrintable(problem));
+
+        // The other edition's sheet sets exercises of its own.
+        const QByteArray twinBytes = readAsset(QStringLiteral("wmf/%1.wmf").arg(twin));
+        QVERIFY(Metafile::parse(twinBytes));
+        QStringList mine = texts, theirs = sheetText(twinBytes).texts;
+        mine.removeAll(label);
+        theirs.removeAll(QStringLiteral("%1 %2").arg(otherEdition).arg(twin.at(1)));
+        QVERIFY(!theirs.isEmpty() && mine != theirs);
+    }
+
+    // The sheet shows no counts as text, so the generator is checked: halves of an
+    // even count, quarters of a multiple of four, as many halves as quarters (one
+    // more when the number is odd), no picture and no count twice in a row.
+    void halvesRules()
+    {
+        for (int seed = 1; seed <= 100; ++seed) {
+            Random::Source rng(seed);
+            const int count = 10 + seed % 5;
+            const std::vector<HalvesExercise> sheet = makeHalvesExercises(rng, count, 6);
+            QCOMPARE(int(sheet.size()), count);
+            int halves = 0;
+            for (std::size_t i = 0; i < sheet.size(); ++i) {
+                const HalvesExercise &e = sheet[i];
+                const QString what = QStringLiteral("seed %1: one in %2 of %3 pictures %4")
+                                         .arg(seed).arg(e.parts).arg(e.count).arg(e.picture);
+                QVERIFY2((e.parts == 2 || e.parts == 4) && e.count >= 2 && e.count <= 16 && e.count % e.parts == 0,
+                         qPrintable(what));
+                QVERIFY2(i == 0 || (e.picture != sheet[i - 1].picture && e.count != sheet[i - 1].count), qPrintable(what));
+                halves += e.parts == 2;
+            }
+            QCOMPARE(halves, (count + 1) / 2);
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(TestWorksheetFiles)
 #include "tst_worksheetfiles.moc"

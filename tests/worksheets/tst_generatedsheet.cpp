@@ -10,11 +10,12 @@
 using namespace Worksheets;
 using PdfSupport::Word;
 using Boxes = QList<QPair<QString, QRectF>>;
-Q_DECLARE_METATYPE(Worksheets::Sheet)
+// A sheet, the paper it is laid out for, and the columns and picture scale expected.
+struct Case { Worksheets::Sheet sheet; QSizeF size; int columns; bool picturesShrink; };
+Q_DECLARE_METATYPE(Case)
 
 namespace {
-// The sheet's corner on the paper, in points (20 twips each): the PDF page's
-// quarter-inch border and the sheet's own half inch.
+// The sheet's corner on the paper, in points (20 twips each): the page's quarter-inch border and its own half inch.
 constexpr double kSheetCornerPt = 36;
 constexpr double kTwipsPerPoint = 20;
 constexpr int kDpi = 60;
@@ -28,25 +29,18 @@ void bar(QPainter& p, const QRectF& r)
 }
 
 // Paints far beyond its rectangle, of which only the rectangle may show.
-void spill(QPainter& p, const QRectF& r)
-{
-    p.fillRect(r.adjusted(-20000, -20000, 20000, 20000), kShaded);
-}
+void spill(QPainter& p, const QRectF& r) { p.fillRect(r.adjusted(-20000, -20000, 20000, 20000), kShaded); }
 
 Sheet mixedSheet()
 {
     return Sheet{"Fractions of Amounts", "Write your answers in the boxes.",
-                 {Row{"What is one half of 54?", "27"},
-                  Row{"What fraction of the bar is shaded?", "3/8", bar, 700},
+                 {Row{"What is one half of 54?", "27"}, Row{"What fraction of the bar is shaded?", "3/8", bar, 700},
                   Row{"How much flour is one quarter of 160 g?", "40", {}, 0, "g"},
                   Row{"Sam has 48 marbles. He gives one half to his sister and one third of the rest to a friend. "
                       "How many does he keep?", "16"},
-                  Row{"Change 17/6 to a mixed number.", "2 5/6"},
-                  Row{"What is three quarters of 2 kilograms?", "1500", {}, 0, "g"},
-                  Row{"How many parts of the bar are not shaded?", "five", bar, 800},
-                  Row{"Write 0.7 as a fraction.", "7/10"},
-                  Row{"What is 2/5 of 35?", "14"},
-                  Row{"Which part of the picture is coloured?", "all of it", spill, 600},
+                  Row{"Change 17/6 to a mixed number.", "2 5/6"}, Row{"What is three quarters of 2 kilograms?", "1500", {}, 0, "g"},
+                  Row{"How many parts of the bar are not shaded?", "five", bar, 800}, Row{"Write 0.7 as a fraction.", "7/10"},
+                  Row{"What is 2/5 of 35?", "14"}, Row{"Which part of the picture is coloured?", "all of it", spill, 600},
                   Row{"A ribbon is 3 m long. How long is one tenth of it?", "0.3", {}, 0, "m"},
                   Row{"Put in order, smallest first: 3.45, 3.5, 3.405", "3.405, 3.45, 3.5"}}};
 }
@@ -68,8 +62,7 @@ QSizeF sheetSize(double pageWidthPt = PdfSupport::kPageWidthPt, double pageHeigh
 // Where a rectangle of the sheet, in twips, is on the PDF page, in points.
 QRectF onPage(const QRectF& twips)
 {
-    const QPointF corner(kSheetCornerPt, kSheetCornerPt);
-    return QRectF(twips.topLeft() / kTwipsPerPoint + corner, twips.size() / kTwipsPerPoint);
+    return QRectF(twips.topLeft() / kTwipsPerPoint + QPointF(kSheetCornerPt, kSheetCornerPt), twips.size() / kTwipsPerPoint);
 }
 
 // The words printed in a rectangle of the sheet, in the order printed.
@@ -122,43 +115,35 @@ private slots:
 
     void laidOutAndPrinted_data()
     {
-        QTest::addColumn<Sheet>("sheet");
-        QTest::addColumn<QSizeF>("size");
-        QTest::addColumn<int>("columns");
-        QTest::addColumn<bool>("picturesShrink");
+        QTest::addColumn<Case>("layout");
         const QSizeF a4 = sheetSize(), letter = sheetSize(612, 792);
-        QTest::newRow("short questions, pictures, units") << mixedSheet() << a4 << 2 << false;
-        QTest::newRow("short questions, Letter: shorter paper") << mixedSheet() << letter << 2 << true;
-        QTest::newRow("long stories: one column") << twelve("Fraction Stories", "Read each story and write the answer.",
+        QTest::newRow("short questions, pictures, units") << Case{mixedSheet(), a4, 2, false};
+        QTest::newRow("short questions, Letter: shorter paper") << Case{mixedSheet(), letter, 2, true};
+        QTest::newRow("long stories: one column") << Case{twelve("Fraction Stories", "Read each story and write the answer.",
             [](int i) { return Row{QStringLiteral("A baker made %1 buns for the school fair and sold one quarter of "
                                                   "them before lunch. How many buns were sold before lunch?").arg((i + 12) * 4),
-                                   QString::number(i + 12), {}, 0, "buns"}; }) << a4 << 1 << false;
-        QTest::newRow("tall pictures") << twelve("Shapes Everywhere", "Look at each shape.", [](int i) {
+                                   QString::number(i + 12), {}, 0, "buns"}; }), a4, 1, false};
+        QTest::newRow("tall pictures") << Case{twelve("Shapes Everywhere", "Look at each shape.", [](int i) {
             return Row{QStringLiteral("What fraction of shape %1 is shaded?").arg(i), "3/8", bar, 2000};
-        }) << a4 << 2 << true;
+        }), a4, 2, true};
         QTest::newRow("long answers, long title and instruction")
-            << twelve("Ordering Decimal Numbers and Putting Them in Order of Their Size",
-                      "Write the numbers in order, smallest first. Take care with the numbers that have two or three "
-                      "decimal places, and check your answers when you have finished.",
-                      [](int i) { return Row{QStringLiteral("4.%1, 4.05, 4.501, 4.5").arg(i),
-                                             QStringLiteral("4.05, 4.5, 4.501, 4.%1").arg(i)}; })
-            << a4 << 1 << false;
+            << Case{twelve("Ordering Decimal Numbers and Putting Them in Order of Their Size",
+                           "Write the numbers in order, smallest first. Take care with the numbers that have two or three "
+                           "decimal places, and check your answers when you have finished.",
+                           [](int i) { return Row{QStringLiteral("4.%1, 4.05, 4.501, 4.5").arg(i),
+                                                  QStringLiteral("4.05, 4.5, 4.501, 4.%1").arg(i)}; }), a4, 1, false};
     }
 
     // On A4, the printer's paper, every text is also printed in its place.
     void laidOutAndPrinted()
     {
-        QFETCH(Sheet, sheet);
-        QFETCH(QSizeF, size);
-        QFETCH(int, columns);
-        QFETCH(bool, picturesShrink);
+        QFETCH(Case, layout);
+        const auto& [sheet, size, columns, picturesShrink] = layout;
         const QString yearLabel = QStringLiteral("Year 4");
         const Layout::QuestionsPage questions = Layout::questionsPage(sheet, yearLabel, size);
         const Layout::AnswersPage answers = Layout::answersPage(sheet, yearLabel, size, columns);
-        QCOMPARE(questions.columns, columns);
-        QCOMPARE(questions.pictureScale < 1, picturesShrink);
-        QCOMPARE(questions.cards.size(), sheet.rows.size());
-        QCOMPARE(answers.cards.size(), sheet.rows.size());
+        QVERIFY(questions.columns == columns && (questions.pictureScale < 1) == picturesShrink);
+        QVERIFY(questions.cards.size() == sheet.rows.size() && answers.cards.size() == sheet.rows.size());
         QVERIFY(questions.heading.band.contains(questions.heading.instruction.box));
         const QRectF inFrame = questions.heading.frame.adjusted(1, 1, -1, -1);
         constexpr double kRounding = 0.5; // twips lost adding up the cards' heights
@@ -186,8 +171,7 @@ private slots:
         if (size != sheetSize())
             return;
 
-        QVERIFY(printGenerated(sheet, yearLabel));
-        QVERIFY(world.messages.isEmpty());
+        QVERIFY(printGenerated(sheet, yearLabel) && world.messages.isEmpty());
         const QStringList files = PdfSupport::files(pdfs->path());
         QCOMPARE(files.size(), 1);
         const QList<QStringList> pages = PdfSupport::pages(files[0]);
@@ -200,24 +184,21 @@ private slots:
         }
         const Layout::Heading& h = questions.heading;
         QCOMPARE(wordsIn(front, h.name.box) + wordsIn(front, h.date.box), QStringLiteral("NameDate"));
-        QCOMPARE(wordsIn(front, h.instruction.box), sheet.instruction);
-        QCOMPARE(wordsIn(back, answers.heading.instruction.box), QStringLiteral("Answers"));
+        QCOMPARE(wordsIn(front, h.instruction.box) + '|' + wordsIn(back, answers.heading.instruction.box), sheet.instruction + "|Answers");
         QVERIFY(!pages[1].join(' ').contains("Name"));
         const QImage page = PdfSupport::render(files[0], kDpi);
         QList<QRectF> places; // the pictures' on the rendered page, a pixel spare all round
         for (int i = 0; i < sheet.rows.size(); ++i) {
             const Row& r = sheet.rows[i];
             const Layout::QuestionCard& c = questions.cards[i];
-            QCOMPARE(wordsIn(front, c.disc), QString::number(i + 1));
-            QCOMPARE(wordsIn(front, c.question.box), r.question);
-            QCOMPARE(wordsIn(front, c.unit.box), r.answerUnit);
+            const QString n = QString::number(i + 1), given = r.answerUnit.isEmpty() ? r.answer : r.answer + ' ' + r.answerUnit;
+            QCOMPARE(QStringList({wordsIn(front, c.disc), wordsIn(front, c.question.box), wordsIn(front, c.unit.box),
+                                  wordsIn(back, answers.cards[i].disc), wordsIn(back, answers.cards[i].answer.box)}),
+                     QStringList({n, r.question, r.answerUnit, n, given}));
             // No answer among the questions, as a whole and not inside a longer number.
             const QRegularExpression answer(QStringLiteral("(?<![\\w./])") + QRegularExpression::escape(r.answer)
                                             + QStringLiteral("(?![\\w/]|\\.\\d)"));
             QVERIFY2(!pages[0].join(' ').contains(answer), qPrintable(r.answer));
-            QCOMPARE(wordsIn(back, answers.cards[i].disc), QString::number(i + 1));
-            const QString given = r.answerUnit.isEmpty() ? r.answer : r.answer + ' ' + r.answerUnit;
-            QCOMPARE(wordsIn(back, answers.cards[i].answer.box), given);
             if (r.picture) {
                 const QRectF place = onPage(c.picture);
                 places << QRectF(place.topLeft() * kDpi / 72, place.size() * kDpi / 72).adjusted(-1, -1, 1, 1);
@@ -230,8 +211,7 @@ private slots:
         for (int y = 0; y < page.height(); ++y)
             for (int x = 0; x < page.width(); ++x) {
                 const QColor c = page.pixelColor(x, y);
-                const int off = qAbs(c.red() - kShaded.red()) + qAbs(c.green() - kShaded.green())
-                    + qAbs(c.blue() - kShaded.blue());
+                const int off = qAbs(c.red() - kShaded.red()) + qAbs(c.green() - kShaded.green()) + qAbs(c.blue() - kShaded.blue());
                 const auto in = [&](const QRectF& r) { return r.contains(x + 0.5, y + 0.5); };
                 QVERIFY2(off >= 30 || std::any_of(places.begin(), places.end(), in),
                          qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
@@ -247,8 +227,7 @@ private slots:
         QTest::newRow("yes, the printer fails") << true << false;
     }
 
-    // No questions are drawn for a sheet that is not printed; a printer that
-    // fails is told, and the next sheet prints once it is back.
+    // No questions are drawn for a sheet not printed; a failing printer is told, the next sheet prints once it is back.
     void printsOnlyWhenAskedAndTells()
     {
         QFETCH(bool, yes);
