@@ -1,7 +1,4 @@
-// The cycle every activity runs on, tried once with a small stand-in board:
-// a practice run to the certificate, a Challenge failed to the retry screen
-// and begun again, a Challenge won back to the menu, Hint off in the
-// Challenge, Exit and the close box back to the menu.
+// The cycle every activity runs on, tried once with a small stand-in board.
 #include "kit/kitboard.h"
 #include "kit/kitscreen.h"
 #include "rewards/grey.h"
@@ -26,7 +23,6 @@ namespace {
 class ProbeBoard : public KitBoard {
 public:
     ProbeBoard()
-        : box(new QLineEdit(this))
     {
         box->setObjectName(QStringLiteral("Text1"));
         box->setAccessibleName(QStringLiteral("your answer"));
@@ -39,10 +35,9 @@ public:
     void focusAnswer() override { box->setFocus(); }
     void giveRightAnswer() override { next = Verdict::right(QStringLiteral("given")); }
 
-    QLineEdit* box;
+    QLineEdit* box = new QLineEdit(this);
     Verdict next = Verdict::right(QStringLiteral("1/2 of 4 is 2."));
-    int asked = 0;
-    int hints = 0;
+    int asked = 0, hints = 0;
     bool answering = false;
 };
 
@@ -80,144 +75,138 @@ void answer(ProbeScreen* form, const Verdict& verdict)
     form->cmdcheck->click();
 }
 
+// Right answers in a row, each moving on to the next question.
+void answerRight(ProbeScreen* form, int times)
+{
+    for (int right = 1; right <= times; ++right) {
+        answer(form, Verdict::right(QStringLiteral("right")));
+        TestSupport::flushUnloads();
+        nextQuestion(form);
+    }
+}
+
 } // namespace
 
 class TestRun : public QObject {
     Q_OBJECT
-private slots:
-    void init();
-    void practiceToTheCertificate();
-    void challengeFailedThenWon();
-    void waysBackToTheMenu();
-    void runLengthNeverBelowTheCount();
-
-private:
     TestSupport::World world;
-};
-
-void TestRun::init()
-{
-    world.fresh(3);
-    version = QStringLiteral("0");
-    yearlabel = QStringLiteral("Year 2");
-    streak = 10;
-    Forms::registerForm(kScreen, [] { return new ProbeScreen; });
-}
-
-// Right answers count and move the picture on; a slip, an answer that cannot
-// be checked and a hint cost nothing in practice; the tenth right answer ends
-// the run with the ready text and the certificate.
-void TestRun::practiceToTheCertificate()
-{
-    ProbeScreen* form = openFromMenu();
-    QCOMPARE(activitytitle, QStringLiteral("Halves and Quarters 2"));
-    QVERIFY(form->Picture1->isVisible() && !form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
-    QCOMPARE(questions, 20);
-    form->Option1->click();
-    QCOMPARE(questions, 10);
-    form->cmdstart->click();
-    QVERIFY(!form->Picture1->isVisible() && form->Frame1->isVisible() && form->Option1->isChecked());
-    QCOMPARE(form->Label1->text(), QStringLiteral("Question 1"));
-    const QString picture = picset;
-
-    form->cmdhint->click();
-    QVERIFY(form->Label2->isVisible() && form->Label2->text() == QStringLiteral("Count the parts."));
-    answer(form, Verdict::notCheckable(QStringLiteral("You must colour some parts!")));
-    QVERIFY(form->Timer1->isEnabled() && form->probe()->answering);
-    form->Timer1_Timer();
-    QVERIFY(form->Label1->isVisible() && form->probe()->asked == 1);
-    answer(form, Verdict::wrong(QStringLiteral("One quarter is 1 part.")));
-    QCOMPARE(form->Label2->text(), QStringLiteral("Not quite. One quarter is 1 part."));
-    QVERIFY(!form->probe()->answering && !form->cmdcheck->isEnabled() && counter == 0);
-    // Enter moves on at once; a second Check in the pause does nothing.
-    form->cmdcheck_Click();
-    QCOMPARE(counter, 0);
-    QTest::keyClick(form->probe()->box, Qt::Key_Return);
-    QVERIFY(form->probe()->asked == 2 && !form->Timer3->isEnabled() && form->probe()->answering);
-    QCOMPARE(form->probe()->hints, 1);
-
-    for (int right = 1; right <= 10; ++right) {
-        answer(form, Verdict::right(QStringLiteral("1/2 of 4 is 2.")));
-        if (right < 10) {
-            QCOMPARE(form->Label2->text(), praisetext + QStringLiteral("1/2 of 4 is 2."));
-            QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picture, right * 2));
-            QVERIFY(!form->isEnabled()); // the stars have the screen
-            nextQuestion(form);
-            QVERIFY(form->isEnabled() && form->cmdhint->isEnabled());
-        }
+private slots:
+    void init()
+    {
+        world.fresh(3);
+        version = QStringLiteral("0");
+        yearlabel = QStringLiteral("Year 2");
+        streak = 10;
+        Forms::registerForm(kScreen, [] { return new ProbeScreen; });
     }
-    QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picture, 20));
-    QVERIFY(Forms::isLoaded(QStringLiteral("Welldone")) && counter == 0 && challenge == 0);
-    QVERIFY(form->Label8->isVisible() && !form->Frame2->isVisible());
-    QCOMPARE(form->Label8->text(), ActivityForm::readyText(QStringLiteral("10")));
-    QVERIFY(!form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
-}
 
-void TestRun::challengeFailedThenWon()
-{
-    ProbeScreen* form = openFromMenu();
-    challenge = 1;
-    questions = 10;
-    form->cmdstart->click();
-    QVERIFY(!form->cmdhint->isEnabled());
-    form->cmdhint_Click(); // even called directly, no hint in the Challenge
-    QCOMPARE(form->probe()->hints, 0);
-    answer(form, Verdict::right(QStringLiteral("right")));
-    nextQuestion(form);
-    QVERIFY(counter == 1 && !form->cmdhint->isEnabled());
-    const QString picture = picset;
+    // Right answers move the picture on; a slip, an unchecked answer and a hint cost nothing in
+    // practice; the tenth right answer ends the run with the ready text and the certificate.
+    void practiceToTheCertificate()
+    {
+        ProbeScreen* form = openFromMenu();
+        QCOMPARE(activitytitle, QStringLiteral("Halves and Quarters 2"));
+        QVERIFY(form->Picture1->isVisible() && !form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
+        QCOMPARE(questions, 20);
+        form->Option1->click();
+        QCOMPARE(questions, 10);
+        form->cmdstart->click();
+        QVERIFY(!form->Picture1->isVisible() && form->Frame1->isVisible() && form->Option1->isChecked());
+        QCOMPARE(form->Label1->text(), QStringLiteral("Question 1"));
+        const QString picture = picset;
 
-    answer(form, Verdict::wrong(QStringLiteral("wrong")));
-    QVERIFY(challenge == 2 && counter == 0 && picset == picture && !form->Image2->isVisible());
-    auto* retry = Forms::find<Reward>();
-    QVERIFY(retry && retry->Label1->isVisible() && retry->Timer2->isEnabled());
-    retry->Timer2_Timer();
-    TestSupport::flushUnloads();
-    nextQuestion(form);
+        form->cmdhint->click();
+        QVERIFY(form->Label2->isVisible() && form->Label2->text() == QStringLiteral("Count the parts."));
+        answer(form, Verdict::notCheckable(QStringLiteral("You must colour some parts!")));
+        QVERIFY(form->Timer1->isEnabled() && form->probe()->answering);
+        form->Timer1_Timer();
+        QVERIFY(form->Label1->isVisible() && form->probe()->asked == 1);
+        answer(form, Verdict::wrong(QStringLiteral("One quarter is 1 part.")));
+        QCOMPARE(form->Label2->text(), QStringLiteral("Not quite. One quarter is 1 part."));
+        QVERIFY(!form->probe()->answering && !form->cmdcheck->isEnabled() && counter == 0);
+        // Enter moves on at once; a second Check in the pause does nothing.
+        form->cmdcheck_Click();
+        QCOMPARE(counter, 0);
+        QTest::keyClick(form->probe()->box, Qt::Key_Return);
+        QVERIFY(form->probe()->asked == 2 && !form->Timer3->isEnabled() && form->probe()->answering);
+        QCOMPARE(form->probe()->hints, 1);
 
-    for (int right = 1; right <= 10; ++right) {
+        for (int right = 1; right <= 10; ++right) {
+            answer(form, Verdict::right(QStringLiteral("1/2 of 4 is 2.")));
+            if (right < 10) {
+                QCOMPARE(form->Label2->text(), praisetext + QStringLiteral("1/2 of 4 is 2."));
+                QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picture, right * 2));
+                QVERIFY(!form->isEnabled()); // the stars have the screen
+                nextQuestion(form);
+                QVERIFY(form->isEnabled() && form->cmdhint->isEnabled());
+            }
+        }
+        QCOMPARE(form->Image2->picturePath(), rewardFrameFile(picture, 20));
+        QVERIFY(Forms::isLoaded(QStringLiteral("Welldone")) && counter == 0 && challenge == 0);
+        QVERIFY(form->Label8->isVisible() && !form->Frame2->isVisible());
+        QCOMPARE(form->Label8->text(), ActivityForm::readyText(QStringLiteral("10")));
+        QVERIFY(!form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
+    }
+
+    // A Challenge without hints, failed to the retry screen, begun again and won back to the menu.
+    void challengeFailedThenWon()
+    {
+        ProbeScreen* form = openFromMenu();
+        challenge = 1;
+        questions = 10;
+        form->cmdstart->click();
+        QVERIFY(!form->cmdhint->isEnabled());
+        form->cmdhint_Click(); // even called directly, no hint in the Challenge
+        QCOMPARE(form->probe()->hints, 0);
+        answerRight(form, 1);
+        QVERIFY(counter == 1 && !form->cmdhint->isEnabled());
+        const QString picture = picset;
+
+        answer(form, Verdict::wrong(QStringLiteral("wrong")));
+        QVERIFY(challenge == 2 && counter == 0 && picset == picture && !form->Image2->isVisible());
+        auto* retry = Forms::find<Reward>();
+        QVERIFY(retry && retry->Label1->isVisible() && retry->Timer2->isEnabled());
+        retry->Timer2_Timer();
+        TestSupport::flushUnloads();
+        nextQuestion(form);
+
+        answerRight(form, 9);
         answer(form, Verdict::right(QStringLiteral("right")));
         TestSupport::flushUnloads();
-        if (right < 10)
-            nextQuestion(form);
+        QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y2Intro")}));
+        QCOMPARE(Forms::find<Welldone>()->Label1->text(), QStringLiteral("Congratulations!!! You have risen to the Challenge."));
     }
-    QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y2Intro")}));
-    QCOMPARE(Forms::find<Welldone>()->Label1->text(), QStringLiteral("Congratulations!!! You have risen to the Challenge."));
-}
 
-void TestRun::waysBackToTheMenu()
-{
-    ProbeScreen* form = openFromMenu();
-    form->cmdstart->click();
-    form->cmdexit->click();
-    TestSupport::flushUnloads();
-    QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("y2Intro")});
+    // Exit and the close box lead back to the menu.
+    void waysBackToTheMenu()
+    {
+        ProbeScreen* form = openFromMenu();
+        form->cmdstart->click();
+        form->cmdexit->click();
+        TestSupport::flushUnloads();
+        QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("y2Intro")});
 
-    form = openFromMenu();
-    TestSupport::pressCloseBox(form);
-    TestSupport::flushUnloads();
-    QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("y2Intro")});
-    QVERIFY(!Forms::programEnded());
-}
-
-// "10 Questions" chosen after 15 right answers of a 20-question run leaves
-// the run at 20, so the count never stands above the run's length; before
-// that many answers the choice is taken.
-void TestRun::runLengthNeverBelowTheCount()
-{
-    ProbeScreen* form = openFromMenu();
-    form->cmdstart->click();
-    QCOMPARE(questions, 20);
-    for (int right = 1; right <= 15; ++right) {
-        answer(form, Verdict::right(QStringLiteral("right")));
-        nextQuestion(form);
+        form = openFromMenu();
+        TestSupport::pressCloseBox(form);
+        TestSupport::flushUnloads();
+        QCOMPARE(TestSupport::visibleForms(), QStringList{QStringLiteral("y2Intro")});
+        QVERIFY(!Forms::programEnded());
     }
-    form->Option1->click();
-    QVERIFY(questions == 20 && counter == 15 && form->Option2->isChecked() && !form->Option1->isChecked());
-    form->cmdstart->click();
-    form->Option1->click();
-    QVERIFY(questions == 10 && form->Option1->isChecked());
-}
+
+    // "10 Questions" after 15 right answers of 20 leaves the run at 20; before that it is taken.
+    void runLengthNeverBelowTheCount()
+    {
+        ProbeScreen* form = openFromMenu();
+        form->cmdstart->click();
+        QCOMPARE(questions, 20);
+        answerRight(form, 15);
+        form->Option1->click();
+        QVERIFY(questions == 20 && counter == 15 && form->Option2->isChecked() && !form->Option1->isChecked());
+        form->cmdstart->click();
+        form->Option1->click();
+        QVERIFY(questions == 10 && form->Option1->isChecked());
+    }
+};
 
 QTEST_MAIN(TestRun)
 #include "tst_run.moc"

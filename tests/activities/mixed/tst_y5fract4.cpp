@@ -27,26 +27,14 @@ y5fract4* openScreen()
     return qobject_cast<y5fract4*>(Forms::show(QStringLiteral("y5fract4")));
 }
 
-void startWith(y5fract4* form, int direction)
-{
-    do
-        form->cmdstart_Click();
-    while (form->question().direction != direction);
-}
-
 void type(QLineEdit* box, const QString& keys, Qt::Key end = Qt::Key_Return)
 {
     QTest::keyClicks(box, keys);
     QTest::keyClick(box, end);
 }
 
-// The boxes of the question on show, in order, with their labels and the
-// numbers that answer it.
-struct Step {
-    QLineEdit* box;
-    QLabel* label;
-    int number;
-};
+// The boxes of the question on show, in order, with their labels and the numbers that answer it.
+struct Step { QLineEdit* box; QLabel* label; int number; };
 QList<Step> steps(y5fract4* f)
 {
     const MixedQuestion q = f->question();
@@ -62,93 +50,8 @@ void answer(y5fract4* form)
     for (int i = 0; i < all.size(); ++i)
         type(all[i].box, QString::number(all[i].number), i % 2 ? Qt::Key_Tab : Qt::Key_Return);
 }
-} // namespace
 
-class TestY5fract4 : public QObject {
-    Q_OBJECT
-private slots:
-    void init() { world.fresh(); }
-    void boxesLeadOnAndTheLastChecks_data();
-    void boxesLeadOnAndTheLastChecks();
-    void practiceThenChallenge();
-
-private:
-    TestSupport::World world;
-};
-
-void TestY5fract4::boxesLeadOnAndTheLastChecks_data()
-{
-    QTest::addColumn<int>("direction");
-    QTest::addColumn<QString>("refused");
-    QTest::addColumn<int>("end");
-    for (int direction : {kToMixed, kToImproper}) {
-        const char* way = direction == kToMixed ? "mixed" : "improper";
-        QTest::addRow("%s, empty ENTER", way) << direction << "" << int(Qt::Key_Return);
-        QTest::addRow("%s, zero ENTER", way) << direction << "0" << int(Qt::Key_Enter);
-        QTest::addRow("%s, zeros Tab", way) << direction << "00" << int(Qt::Key_Tab);
-    }
-}
-
-// The hint replaces the typing instruction. Each box takes two digits at
-// most, by keys or pasting, and refuses an empty or zero entry without a
-// word, then gives way to its label and opens the next; the last one checks.
-void TestY5fract4::boxesLeadOnAndTheLastChecks()
-{
-    QFETCH(int, direction);
-    QFETCH(QString, refused);
-    QFETCH(int, end);
-    y5fract4* form = openScreen();
-    startWith(form, direction);
-    const MixedQuestion q = form->question();
-    QVERIFY(form->Label5->isVisible() && form->Timer5->isEnabled());
-    form->cmdhint->click();
-    QVERIFY(!form->Label5->isVisible() && !form->Timer5->isEnabled() && form->Label18->isVisible());
-    QCOMPARE(form->Label18->text() + form->Label20->text(), q.hintText() + q.productText());
-    QCOMPARE(form->Label20->isVisible(), direction == kToImproper);
-    const QString keys = QStringLiteral("a -Z3.q54");
-    for (const QChar c : keys) {
-        int code = c.unicode();
-        direction == kToMixed ? form->Text1_KeyPress(code) : form->Text3_KeyPress(code);
-        QCOMPARE(code != 0, c.isDigit());
-    }
-    QGuiApplication::clipboard()->setText(QStringLiteral("5a"));
-
-    const QList<Step> all = steps(form);
-    for (int i = 0; i < all.size(); ++i) {
-        const Step& s = all[i];
-        QCOMPARE(form->focusWidget(), s.box);
-        for (int j = i + 1; j < all.size(); ++j)
-            QVERIFY(!all[j].box->isEnabled());
-        QTest::keyClicks(s.box, keys);
-        QTest::keyClick(s.box, Qt::Key_Backspace);
-        QCOMPARE(s.box->text(), QStringLiteral("3"));
-        s.box->clear();
-        QTest::keyClick(s.box, Qt::Key_V, Qt::ControlModifier);
-        s.box->paste();
-        type(s.box, refused, Qt::Key(end));
-        QVERIFY(s.box->isVisible() && s.box->text().isEmpty() && !form->Label2->isVisible());
-        QCOMPARE(form->focusWidget(), s.box);
-        type(s.box, QString::number(s.number), Qt::Key(end));
-        QVERIFY(!s.box->isVisible() && s.label->isVisible());
-        QCOMPARE(s.label->text(), QString::number(s.number));
-        if (i + 1 < all.size())
-            QVERIFY(all[i + 1].box->isEnabled());
-    }
-    QCOMPARE(counter, 1);
-    QCOMPARE(form->Label2->text(), praisetext + QStringLiteral(" ") + q.answerText());
-    QVERIFY(form->Label2->isVisible() && !form->Label1->isVisible() && !form->Label18->isVisible()
-            && !form->Label20->isVisible());
-    QVERIFY(!form->isEnabled() && !form->cmdhint->isEnabled() && world.messages.isEmpty());
-    QVERIFY(form->Timer1->isEnabled() && Forms::find<Grey>()->Timer1->isEnabled());
-
-    form->Timer1_Timer();
-    QVERIFY(form->isEnabled() && form->cmdhint->isEnabled() && form->Label1->isVisible() && !form->Label2->isVisible());
-    const Step first = steps(form).first();
-    QVERIFY(first.box->isVisible() && first.box->isEnabled() && first.box->text().isEmpty());
-    QCOMPARE(form->focusWidget(), first.box);
-}
-
-// Checks a partial answer: the missing boxes count 0.
+// Checks a partial answer, by Timer4 or by Check: the missing boxes count 0.
 void checkPartialAnswer(y5fract4* form, bool byTimer4)
 {
     const Step first = steps(form).first();
@@ -164,64 +67,144 @@ void checkPartialAnswer(y5fract4* form, bool byTimer4)
     QVERIFY(form->Label1->isVisible() && !form->Label2->isVisible());
     QCOMPARE(form->cmdhint->isEnabled(), challenge == 0);
 }
+} // namespace
 
-// Ten right answers through the boxes, with a hint and a partial answer
-// between, make the child ready; the certificate arms the Challenge, where a
-// partial answer after a right one begins the same picture again, and
-// twenty right answers lead back to the menu and the certificate.
-void TestY5fract4::practiceThenChallenge()
-{
-    y5fract4* form = openScreen();
-    QCOMPARE(activitytitle, form->Label4->text());
-    QVERIFY(form->Option2->isChecked());
-    QVERIFY(form->Picture1->isVisible() && !form->Picture2->isVisible() && !form->Picture3->isVisible());
-    QVERIFY(!form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
-    form->Option1->click();
-    form->cmdstart->click();
-    QVERIFY(!form->Picture1->isVisible());
-    for (int right = 1; right <= 10; ++right) {
-        if (right == 4) {
-            form->cmdhint->click();
-            checkPartialAnswer(form, true);
+class TestY5fract4 : public QObject {
+    Q_OBJECT
+    TestSupport::World world;
+private slots:
+    void init() { world.fresh(); }
+
+    void boxesLeadOnAndTheLastChecks_data()
+    {
+        QTest::addColumn<int>("direction");
+        QTest::addColumn<QString>("refused");
+        QTest::addColumn<int>("end");
+        for (int direction : {kToMixed, kToImproper}) {
+            const char* way = direction == kToMixed ? "mixed" : "improper";
+            QTest::addRow("%s, empty ENTER", way) << direction << "" << int(Qt::Key_Return);
+            QTest::addRow("%s, zero ENTER", way) << direction << "0" << int(Qt::Key_Enter);
+            QTest::addRow("%s, zeros Tab", way) << direction << "00" << int(Qt::Key_Tab);
         }
-        answer(form);
-        QCOMPARE(counter, right % 10);
-        if (right < 10)
-            form->Timer1_Timer();
     }
-    QCOMPARE(form->Label80->text(), QStringLiteral("  You are now ready for the Challenge.   20 correct answers on "
-                                                   "the run, with no hints. Click Start to take the Challenge."));
-    QVERIFY(form->Label80->isVisible() && !form->Picture2->isVisible() && !form->Picture3->isVisible());
-    QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y5fract4")}));
 
-    Forms::find<Welldone>()->cmdexit->click();
-    QCOMPARE(challenge, 1);
-    world.answer = MsgBox::Answer::No;
-    form->cmdprint->click(); // its question is the worksheets' test
-    QCOMPARE(world.messages.size(), 1);
-    form->cmdstart->click();
-    QVERIFY(!form->Label80->isVisible());
-    answer(form);
-    form->Timer1_Timer();
-    const QString set = picset;
-    checkPartialAnswer(form, false);
-    QVERIFY(challenge == 2 && picset == set);
-    QVERIFY(Forms::find<Reward>()->isVisible() && Forms::find<Reward>()->Label1->isVisible());
-    Forms::find<Reward>()->Timer2_Timer();
-    for (int right = 1; right < 20; ++right) {
-        answer(form);
-        QCOMPARE(counter, right);
+    // The hint replaces the typing instruction. Each box takes two digits at most, by keys or
+    // pasting, refuses an empty or zero entry without a word, then gives way to its label and
+    // opens the next; the last one checks.
+    void boxesLeadOnAndTheLastChecks()
+    {
+        QFETCH(int, direction);
+        QFETCH(QString, refused);
+        QFETCH(int, end);
+        y5fract4* form = openScreen();
+        do
+            form->cmdstart_Click();
+        while (form->question().direction != direction);
+        const MixedQuestion q = form->question();
+        QVERIFY(form->Label5->isVisible() && form->Timer5->isEnabled());
+        form->cmdhint->click();
+        QVERIFY(!form->Label5->isVisible() && !form->Timer5->isEnabled() && form->Label18->isVisible());
+        QCOMPARE(form->Label18->text() + form->Label20->text(), q.hintText() + q.productText());
+        QCOMPARE(form->Label20->isVisible(), direction == kToImproper);
+        const QString keys = QStringLiteral("a -Z3.q54");
+        for (const QChar c : keys) {
+            int code = c.unicode();
+            direction == kToMixed ? form->Text1_KeyPress(code) : form->Text3_KeyPress(code);
+            QCOMPARE(code != 0, c.isDigit());
+        }
+        QGuiApplication::clipboard()->setText(QStringLiteral("5a"));
+
+        const QList<Step> all = steps(form);
+        for (int i = 0; i < all.size(); ++i) {
+            const Step& s = all[i];
+            QCOMPARE(form->focusWidget(), s.box);
+            for (int j = i + 1; j < all.size(); ++j)
+                QVERIFY(!all[j].box->isEnabled());
+            QTest::keyClicks(s.box, keys);
+            QTest::keyClick(s.box, Qt::Key_Backspace);
+            QCOMPARE(s.box->text(), QStringLiteral("3"));
+            s.box->clear();
+            QTest::keyClick(s.box, Qt::Key_V, Qt::ControlModifier);
+            s.box->paste();
+            type(s.box, refused, Qt::Key(end));
+            QVERIFY(s.box->isVisible() && s.box->text().isEmpty() && !form->Label2->isVisible());
+            QCOMPARE(form->focusWidget(), s.box);
+            type(s.box, QString::number(s.number), Qt::Key(end));
+            QVERIFY(!s.box->isVisible() && s.label->isVisible());
+            QCOMPARE(s.label->text(), QString::number(s.number));
+            QVERIFY(i + 1 == all.size() || all[i + 1].box->isEnabled());
+        }
+        QCOMPARE(counter, 1);
+        QCOMPARE(form->Label2->text(), praisetext + QStringLiteral(" ") + q.answerText());
+        QVERIFY(form->Label2->isVisible() && !form->Label1->isVisible() && !form->Label18->isVisible()
+                && !form->Label20->isVisible());
+        QVERIFY(!form->isEnabled() && !form->cmdhint->isEnabled() && world.messages.isEmpty());
+        QVERIFY(form->Timer1->isEnabled() && Forms::find<Grey>()->Timer1->isEnabled());
+
         form->Timer1_Timer();
-        QVERIFY(!form->cmdhint->isEnabled());
+        QVERIFY(form->isEnabled() && form->cmdhint->isEnabled() && form->Label1->isVisible() && !form->Label2->isVisible());
+        const Step first = steps(form).first();
+        QVERIFY(first.box->isVisible() && first.box->isEnabled() && first.box->text().isEmpty());
+        QCOMPARE(form->focusWidget(), first.box);
     }
-    QPointer<y5fract4> leaving(form);
-    answer(form);
-    TestSupport::flushUnloads();
-    QVERIFY(!leaving);
-    QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y5Intro2")}));
-    QCOMPARE(Forms::find<Welldone>()->Label1->text(),
-             QStringLiteral("Congratulations!!! You have risen to the Challenge."));
-}
+
+    // Ten right answers, with a hint and a partial answer between, make the child ready; in the
+    // Challenge a partial answer after a right one begins the same picture again, and twenty right
+    // answers lead back to the menu and the certificate.
+    void practiceThenChallenge()
+    {
+        y5fract4* form = openScreen();
+        QCOMPARE(activitytitle, form->Label4->text());
+        QVERIFY(form->Option2->isChecked());
+        QVERIFY(form->Picture1->isVisible() && !form->Picture2->isVisible() && !form->Picture3->isVisible());
+        QVERIFY(!form->cmdcheck->isEnabled() && !form->cmdhint->isEnabled());
+        form->Option1->click();
+        form->cmdstart->click();
+        QVERIFY(!form->Picture1->isVisible());
+        for (int right = 1; right <= 10; ++right) {
+            if (right == 4) {
+                form->cmdhint->click();
+                checkPartialAnswer(form, true);
+            }
+            answer(form);
+            QCOMPARE(counter, right % 10);
+            if (right < 10)
+                form->Timer1_Timer();
+        }
+        QCOMPARE(form->Label80->text(), QStringLiteral("  You are now ready for the Challenge.   20 correct answers on "
+                                                       "the run, with no hints. Click Start to take the Challenge."));
+        QVERIFY(form->Label80->isVisible() && !form->Picture2->isVisible() && !form->Picture3->isVisible());
+        QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y5fract4")}));
+
+        Forms::find<Welldone>()->cmdexit->click();
+        QCOMPARE(challenge, 1);
+        world.answer = MsgBox::Answer::No;
+        form->cmdprint->click(); // its question is the worksheets' test
+        QCOMPARE(world.messages.size(), 1);
+        form->cmdstart->click();
+        QVERIFY(!form->Label80->isVisible());
+        answer(form);
+        form->Timer1_Timer();
+        const QString set = picset;
+        checkPartialAnswer(form, false);
+        QVERIFY(challenge == 2 && picset == set);
+        QVERIFY(Forms::find<Reward>()->isVisible() && Forms::find<Reward>()->Label1->isVisible());
+        Forms::find<Reward>()->Timer2_Timer();
+        for (int right = 1; right < 20; ++right) {
+            answer(form);
+            QCOMPARE(counter, right);
+            form->Timer1_Timer();
+            QVERIFY(!form->cmdhint->isEnabled());
+        }
+        QPointer<y5fract4> leaving(form);
+        answer(form);
+        TestSupport::flushUnloads();
+        QVERIFY(!leaving);
+        QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y5Intro2")}));
+        QCOMPARE(Forms::find<Welldone>()->Label1->text(),
+                 QStringLiteral("Congratulations!!! You have risen to the Challenge."));
+    }
+};
 
 QTEST_MAIN(TestY5fract4)
 #include "tst_y5fract4.moc"
