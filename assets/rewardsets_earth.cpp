@@ -291,14 +291,7 @@ void drawEarth(QPainter &p, const QRectF &area, int step)
     view.tiltDegrees = 22;
     view.spinDegrees = 30;  // the Atlantic faces us
     view.samplesPerSide = 3;
-    // Rendered pixel by pixel at the size it is drawn, also on a larger twin.
-    const double enlarge = p.transform().m11();
-    const QImage globe = renderSphere(radius * enlarge, view, surface);
-    p.save();
-    p.translate(centre);
-    p.scale(1 / enlarge, 1 / enlarge);
-    p.drawImage(-QPointF(globe.width() / 2.0, globe.height() / 2.0), globe);
-    p.restore();
+    drawSphere(p, centre, radius, view, surface);
 
     if (step >= 20) {  // and the Moon keeps it company
         const QPointF moon(area.right() - 24, area.top() + 26);

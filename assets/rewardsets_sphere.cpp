@@ -69,14 +69,7 @@ void drawSlicedSphere(QPainter &p, const QRectF &area, int step)
     };
     SphereView view;
     view.tiltDegrees = 12;
-    // Rendered pixel by pixel at the size it is drawn, also on a larger twin.
-    const double enlarge = p.transform().m11();
-    const QImage ball = renderSphere(radius * enlarge, view, surface);
-    p.save();
-    p.translate(centre);
-    p.scale(1 / enlarge, 1 / enlarge);
-    p.drawImage(-QPointF(ball.width() / 2.0, ball.height() / 2.0), ball);
-    p.restore();
+    drawSphere(p, centre, radius, view, surface);
     p.setBrush(Qt::NoBrush);
     p.setPen(QPen(QColor(90, 120, 170, 160), 1.2));
     p.drawEllipse(centre, radius, radius);

@@ -1,5 +1,7 @@
 #include "sphere.h"
 
+#include <QPainter>
+
 #include <algorithm>
 #include <cmath>
 
@@ -81,4 +83,16 @@ QImage renderSphere(double radius, const SphereView &view, const SphereSurface &
         }
     }
     return image;
+}
+
+void drawSphere(QPainter &p, QPointF centre, double radius, const SphereView &view,
+                const SphereSurface &surface)
+{
+    const double enlarge = p.transform().m11();
+    const QImage ball = renderSphere(radius * enlarge, view, surface);
+    p.save();
+    p.translate(centre);
+    p.scale(1 / enlarge, 1 / enlarge);
+    p.drawImage(-QPointF(ball.width() / 2.0, ball.height() / 2.0), ball);
+    p.restore();
 }

@@ -5,6 +5,9 @@
 
 #include <QColor>
 #include <QImage>
+#include <QPointF>
+
+class QPainter;
 
 #include <functional>
 
@@ -21,3 +24,8 @@ using SphereSurface = std::function<QColor(double longitude, double latitude)>;
 
 // The ball is centred in a transparent square image of side ceil(2r) + 2.
 QImage renderSphere(double radius, const SphereView &view, const SphereSurface &surface);
+
+// Draws the ball of radius r centred on centre, rendered pixel by pixel at the
+// size the painter will draw it (so it stays sharp on a larger twin too).
+void drawSphere(QPainter &p, QPointF centre, double radius, const SphereView &view,
+                const SphereSurface &surface);

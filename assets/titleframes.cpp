@@ -59,10 +59,7 @@ QImage titleFrame(int frame, int enlarge)
     SphereView view;
     view.tiltDegrees = 22;
     view.spinDegrees = 2 * kWedgeDegrees * frame / kFrames;
-    // The ball is rendered pixel by pixel at the frame's own size.
-    const QImage ball = renderSphere(kRadius * enlarge, view, wedgeSurface);
-    painter.resetTransform();
-    painter.drawImage(centre * enlarge - QPointF(ball.width() / 2.0, ball.height() / 2.0), ball);
+    drawSphere(painter, centre, kRadius, view, wedgeSurface);
     return image;
 }
 
