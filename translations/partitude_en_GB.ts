@@ -411,17 +411,6 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
         <translation>%1ths</translation>
     </message>
     <message>
-        <source>one %1th</source>
-        <translation>one %1th</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 %2ths</source>
-        <translation>
-            <numerusform>%1 %2th</numerusform>
-            <numerusform>%1 %2ths</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>%1 and %2</source>
         <comment>a mixed number: five and two thirds</comment>
         <translation>%1 and %2</translation>
@@ -690,6 +679,43 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
         <translation>
             <numerusform>%1 thousandth</numerusform>
             <numerusform>%1 thousandths</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1st</source>
+        <translation>%1st</translation>
+    </message>
+    <message>
+        <source>%1nd</source>
+        <translation>%1nd</translation>
+    </message>
+    <message>
+        <source>%1rd</source>
+        <translation>%1rd</translation>
+    </message>
+    <message>
+        <source>%1sts</source>
+        <translation>%1sts</translation>
+    </message>
+    <message>
+        <source>%1nds</source>
+        <translation>%1nds</translation>
+    </message>
+    <message>
+        <source>%1rds</source>
+        <translation>%1rds</translation>
+    </message>
+    <message>
+        <source>one %1</source>
+        <comment>one part without a name of its own: one 22nd</comment>
+        <translation>one %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %2</source>
+        <comment>parts without a name of their own: five 22nds</comment>
+        <translation>
+            <numerusform>%1 %2</numerusform>
+            <numerusform>%1 %2</numerusform>
         </translation>
     </message>
 </context>

@@ -411,17 +411,6 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
         <translation>%1es</translation>
     </message>
     <message>
-        <source>one %1th</source>
-        <translation>un %1e</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 %2ths</source>
-        <translation>
-            <numerusform>%1 %2e</numerusform>
-            <numerusform>%1 %2es</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>%1 and %2</source>
         <comment>a mixed number: five and two thirds</comment>
         <translation>%1 et %2</translation>
@@ -690,6 +679,43 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
         <translation>
             <numerusform>%1 millième</numerusform>
             <numerusform>%1 millièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1st</source>
+        <translation>%1e</translation>
+    </message>
+    <message>
+        <source>%1nd</source>
+        <translation>%1e</translation>
+    </message>
+    <message>
+        <source>%1rd</source>
+        <translation>%1e</translation>
+    </message>
+    <message>
+        <source>%1sts</source>
+        <translation>%1es</translation>
+    </message>
+    <message>
+        <source>%1nds</source>
+        <translation>%1es</translation>
+    </message>
+    <message>
+        <source>%1rds</source>
+        <translation>%1es</translation>
+    </message>
+    <message>
+        <source>one %1</source>
+        <comment>one part without a name of its own: one 22nd</comment>
+        <translation>un %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %2</source>
+        <comment>parts without a name of their own: five 22nds</comment>
+        <translation>
+            <numerusform>%1 %2</numerusform>
+            <numerusform>%1 %2</numerusform>
         </translation>
     </message>
 </context>

@@ -134,16 +134,45 @@ QString capitalised(QString text)
     return text;
 }
 
+namespace {
+// A bottom with no name of its own is written as an ordinal in figures
+// ("16ths", "22nds", "23rds"), which a screen reader says as a word. The
+// ending goes by the number, so each ending is a text of its own to translate.
+enum Ending { kSt, kNd, kRd, kTh };
+
+Ending ordinalEnding(int n)
+{
+    constexpr int kHundred = 100;
+    constexpr int kTen = 10;
+    const int lastTwo = std::abs(n) % kHundred;
+    if (lastTwo >= 11 && lastTwo <= 13) // eleventh, twelfth, thirteenth
+        return kTh;
+    switch (lastTwo % kTen) {
+    case 1: return kSt;
+    case 2: return kNd;
+    case 3: return kRd;
+    default: return kTh;
+    }
+}
+
+constexpr const char* kUnnamedPart[] = {
+    QT_TRANSLATE_NOOP("Fractions", "%1st"), QT_TRANSLATE_NOOP("Fractions", "%1nd"),
+    QT_TRANSLATE_NOOP("Fractions", "%1rd"), QT_TRANSLATE_NOOP("Fractions", "%1th")};
+constexpr const char* kUnnamedParts[] = {
+    QT_TRANSLATE_NOOP("Fractions", "%1sts"), QT_TRANSLATE_NOOP("Fractions", "%1nds"),
+    QT_TRANSLATE_NOOP("Fractions", "%1rds"), QT_TRANSLATE_NOOP("Fractions", "%1ths")};
+} // namespace
+
 QString partName(int bottom)
 {
     const PartNames* p = partNames(bottom);
-    return p ? translated(p->one) : QCoreApplication::translate("Fractions", "%1th").arg(bottom);
+    return p ? translated(p->one) : translated(kUnnamedPart[ordinalEnding(bottom)]).arg(bottom);
 }
 
 QString partsName(int bottom)
 {
     const PartNames* p = partNames(bottom);
-    return p ? translated(p->many) : QCoreApplication::translate("Fractions", "%1ths").arg(bottom);
+    return p ? translated(p->many) : translated(kUnnamedParts[ordinalEnding(bottom)]).arg(bottom);
 }
 
 QString words(int top, int bottom)
@@ -152,11 +181,14 @@ QString words(int top, int bottom)
         return numberWord(top);
     const PartNames* p = partNames(bottom);
     if (top == 1)
-        return p ? translated(p->single) : QCoreApplication::translate("Fractions", "one %1th").arg(bottom);
+        return p ? translated(p->single)
+                 : QCoreApplication::translate("Fractions", "one %1", "one part without a name of its own: one 22nd")
+                       .arg(partName(bottom));
     // The count chooses a translation's plural form: French says "zéro quart".
     const QString number = numberWord(top);
     return p ? translated(p->several, top).arg(number)
-             : QCoreApplication::translate("Fractions", "%1 %2ths", nullptr, top).arg(number).arg(bottom);
+             : QCoreApplication::translate("Fractions", "%1 %2", "parts without a name of their own: five 22nds", top)
+                   .arg(number, partsName(bottom));
 }
 
 QString mixedWords(int whole, int top, int bottom)

@@ -84,6 +84,11 @@ void TestFraction::words_data()
     QTest::newRow("1/100") << 1 << 100 << "one hundredth";
     QTest::newRow("125/1000") << 125 << 1000 << "125 thousandths";
     QTest::newRow("4/1") << 4 << 1 << "four";
+    QTest::newRow("5/16") << 5 << 16 << "five 16ths";
+    QTest::newRow("1/21") << 1 << 21 << "one 21st";
+    QTest::newRow("12/22") << 12 << 22 << "twelve 22nds";
+    QTest::newRow("2/63") << 2 << 63 << "two 63rds";
+    QTest::newRow("3/13") << 3 << 13 << "three 13ths";
 }
 
 void TestFraction::words()
