@@ -9,11 +9,6 @@
 namespace Equivalent {
 
 namespace {
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Equivalent", text);
-}
-
 QString fractionText(int top, int bottom)
 {
     return QStringLiteral("%1/%2").arg(top).arg(bottom);
@@ -59,9 +54,8 @@ bool Pair::multiplying() const
 
 QString Pair::text() const
 {
-    const auto at = [this](Blank place) {
-        return place == blank ? QStringLiteral("?") : QString::number(number(place));
-    };
+    const auto at
+        = [this](Blank place) { return place == blank ? QStringLiteral("?") : QString::number(number(place)); };
     return QStringLiteral("%1/%2 = %3/%4")
         .arg(at(Blank::FirstTop), at(Blank::FirstBottom), at(Blank::SecondTop), at(Blank::SecondBottom));
 }
@@ -74,22 +68,26 @@ QString Pair::spoken() const
                                 : Fractions::words(number(Blank::FirstTop), number(Blank::FirstBottom));
     switch (blank) {
     case Blank::SecondTop:
-        return tr("%1 equals how many %2?").arg(whole, Fractions::partsName(number(Blank::SecondBottom)));
+        return QCoreApplication::translate("Equivalent", "%1 equals how many %2?")
+            .arg(whole, Fractions::partsName(number(Blank::SecondBottom)));
     case Blank::SecondBottom:
-        return tr("%1 equals %2 out of how many?").arg(whole, Fractions::numberWord(number(Blank::SecondTop)));
+        return QCoreApplication::translate("Equivalent", "%1 equals %2 out of how many?")
+            .arg(whole, Fractions::numberWord(number(Blank::SecondTop)));
     case Blank::FirstTop:
-        return tr("How many %1 equal %2?").arg(Fractions::partsName(number(Blank::FirstBottom)), whole);
+        return QCoreApplication::translate("Equivalent", "How many %1 equal %2?")
+            .arg(Fractions::partsName(number(Blank::FirstBottom)), whole);
     case Blank::FirstBottom:
         break;
     }
-    return tr("%1 out of how many equals %2?").arg(Fractions::numberWord(number(Blank::FirstTop)), whole);
+    return QCoreApplication::translate("Equivalent", "%1 out of how many equals %2?")
+        .arg(Fractions::numberWord(number(Blank::FirstTop)), whole);
 }
 
 QString Pair::statement() const
 {
-    return tr("%1 is equal to %2.")
+    return QCoreApplication::translate("Equivalent", "%1 is equal to %2.")
         .arg(fractionText(number(Blank::FirstTop), number(Blank::FirstBottom)),
-             fractionText(number(Blank::SecondTop), number(Blank::SecondBottom)));
+            fractionText(number(Blank::SecondTop), number(Blank::SecondBottom)));
 }
 
 Pair drawOnWall(Random::Source& rnd, const Pair* last)
@@ -98,8 +96,7 @@ Pair drawOnWall(Random::Source& rnd, const Pair* last)
     do {
         p.bottom = rnd.between(kWallSmallestBottom, kWallLargestBottom);
         p.top = lowestTermsTop(rnd, p.bottom);
-        p.factor = rnd.between(kWallSmallestFactor,
-                               std::min(kWallLargestFactor, kWallLargestSecondBottom / p.bottom));
+        p.factor = rnd.between(kWallSmallestFactor, std::min(kWallLargestFactor, kWallLargestSecondBottom / p.bottom));
     } while (last && p == *last);
     return p;
 }
@@ -122,9 +119,11 @@ Verdict check(const Pair& pair, const QString& typed)
     bool isNumber = false;
     const int value = typed.toInt(&isNumber);
     if (typed.isEmpty() || !isNumber)
-        return Verdict::notCheckable(tr("Type the missing number in the box first!"));
+        return Verdict::notCheckable(
+            QCoreApplication::translate("Equivalent", "Type the missing number in the box first!"));
     if (value == 0)
-        return Verdict::notCheckable(tr("The missing number is never 0: look at the fractions again."));
+        return Verdict::notCheckable(
+            QCoreApplication::translate("Equivalent", "The missing number is never 0: look at the fractions again."));
     return value == pair.answer() ? Verdict::right(pair.statement()) : Verdict::wrong(pair.statement());
 }
 
@@ -132,7 +131,7 @@ QString wallHint(const Pair& pair)
 {
     const int small = pair.bottom;
     const int large = pair.bottom * pair.factor;
-    return tr("%1 ÷ %2 = %3, so the top is multiplied by %3 too: %4 × %3 = %5.")
+    return QCoreApplication::translate("Equivalent", "%1 ÷ %2 = %3, so the top is multiplied by %3 too: %4 × %3 = %5.")
         .arg(large)
         .arg(small)
         .arg(pair.factor)
@@ -149,12 +148,15 @@ QString hint(const Pair& pair)
     const int k = pair.factor;
     if (pair.multiplying()) {
         const QString text = blankOnTop
-            ? tr("%1 × %2 = %3, so the top is multiplied by %2 too: %4 × %2 = %5.")
-            : tr("%1 × %2 = %3, so the bottom is multiplied by %2 too: %4 × %2 = %5.");
+            ? QCoreApplication::translate("Equivalent",
+                                          "%1 × %2 = %3, so the top is multiplied by %2 too: %4 × %2 = %5.")
+            : QCoreApplication::translate("Equivalent",
+                                          "%1 × %2 = %3, so the bottom is multiplied by %2 too: %4 × %2 = %5.");
         return text.arg(knownSmall).arg(k).arg(knownSmall * k).arg(otherSmall).arg(otherSmall * k);
     }
-    const QString text = blankOnTop ? tr("%1 ÷ %2 = %3, so the top is divided by %2 too: %4 ÷ %2 = %5.")
-                                    : tr("%1 ÷ %2 = %3, so the bottom is divided by %2 too: %4 ÷ %2 = %5.");
+    const QString text = blankOnTop
+        ? QCoreApplication::translate("Equivalent", "%1 ÷ %2 = %3, so the top is divided by %2 too: %4 ÷ %2 = %5.")
+        : QCoreApplication::translate("Equivalent", "%1 ÷ %2 = %3, so the bottom is divided by %2 too: %4 ÷ %2 = %5.");
     return text.arg(knownSmall * k).arg(k).arg(knownSmall).arg(otherSmall * k).arg(otherSmall);
 }
 
@@ -170,12 +172,13 @@ QString Choice::fractionText() const
 
 QString Choice::instruction() const
 {
-    return tr("Which fraction is equal to %1?").arg(fractionText());
+    return QCoreApplication::translate("Equivalent", "Which fraction is equal to %1?").arg(fractionText());
 }
 
 QString Choice::spoken() const
 {
-    return tr("Which fraction is equal to %1?").arg(Fractions::words(top, bottom));
+    return QCoreApplication::translate("Equivalent", "Which fraction is equal to %1?")
+        .arg(Fractions::words(top, bottom));
 }
 
 Choice drawChoice(Random::Source& rnd, const Choice* last)
@@ -219,26 +222,29 @@ Choice drawChoice(Random::Source& rnd, const Choice* last)
         std::swap(cards[i], cards[rnd.between(0, i)]);
     c.cards = cards;
     const Card right{c.top * c.factor, c.bottom * c.factor};
-    c.right = int(std::find_if(cards.begin(), cards.end(),
-                               [&](const Card& card) { return card.top == right.top && card.bottom == right.bottom; })
-                  - cards.begin());
+    c.right = int(std::find_if(cards.begin(), cards.end(), [&](const Card& card) {
+        return card.top == right.top && card.bottom == right.bottom;
+    }) - cards.begin());
     return c;
 }
 
 Verdict checkChoice(const Choice& choice, int chosen)
 {
     if (chosen < 0 || chosen >= kCards)
-        return Verdict::notCheckable(tr("Choose one of the cards first!"));
+        return Verdict::notCheckable(QCoreApplication::translate("Equivalent", "Choose one of the cards first!"));
     const Card& card = choice.cards[std::size_t(chosen)];
     const Card& right = choice.cards[std::size_t(choice.right)];
     if (Fractions::Fraction(card.top, card.bottom) == Fractions::Fraction(choice.top, choice.bottom))
-        return Verdict::right(tr("%1 is equal to %2.").arg(card.text(), choice.fractionText()));
-    return Verdict::wrong(tr("%1 is not equal to %2: %3 is.").arg(card.text(), choice.fractionText(), right.text()));
+        return Verdict::right(
+            QCoreApplication::translate("Equivalent", "%1 is equal to %2.").arg(card.text(), choice.fractionText()));
+    return Verdict::wrong(QCoreApplication::translate("Equivalent", "%1 is not equal to %2: %3 is.")
+                              .arg(card.text(), choice.fractionText(), right.text()));
 }
 
 QString choiceHint(const Choice& choice)
 {
-    return tr("Multiply the top and the bottom by the same number: %1 × %2 = %3 and %4 × %2 = %5.")
+    return QCoreApplication::translate(
+        "Equivalent", "Multiply the top and the bottom by the same number: %1 × %2 = %3 and %4 × %2 = %5.")
         .arg(choice.top)
         .arg(choice.factor)
         .arg(choice.top * choice.factor)

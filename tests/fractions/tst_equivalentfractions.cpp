@@ -186,7 +186,8 @@ void TestEquivalentFractions::sentences()
     QTEST(p.spoken(), "spoken");
     QTEST(Equivalent::hint(p), "hint");
     if (!largerFirst && Blank(blank) == Blank::SecondTop)
-        QCOMPARE(Equivalent::wallHint(p), QStringLiteral("12 ÷ 3 = 4, so the top is multiplied by 4 too: 2 × 4 = 8."));
+        QCOMPARE(Equivalent::wallHint(p),
+                 QStringLiteral("12 ÷ 3 = 4, so the top is multiplied by 4 too: 2 × 4 = 8."));
 }
 
 QTEST_APPLESS_MAIN(TestEquivalentFractions)

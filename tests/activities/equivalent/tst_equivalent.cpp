@@ -89,7 +89,8 @@ void TestEquivalent::missingNumberByKeyboard()
     if (onWall)
         QCOMPARE(secondRowShaded(board), 0);
     form->cmdhint->click();
-    QCOMPARE(form->Label2->text(), onWall ? Equivalent::wallHint(board->question()) : Equivalent::hint(board->question()));
+    const Equivalent::Pair& asked = board->question();
+    QCOMPARE(form->Label2->text(), onWall ? Equivalent::wallHint(asked) : Equivalent::hint(asked));
     if (onWall)
         QCOMPARE(secondRowShaded(board), board->question().answer());
     QCOMPARE(QApplication::focusWidget(), board->Text1);
