@@ -5,7 +5,7 @@
 #include <QPainter>
 
 namespace {
-constexpr double kRowGapShare = 0.25;   // between wall rows, of a row's height
+constexpr double kRowGapShare = 0.5;    // between wall rows, of a row's height
 constexpr double kWallLine = 15;        // twips: the lines between bricks
 const QColor kSheetShade{190, 190, 190}; // grey prints on every printer
 constexpr double kNumberShare = 0.3;    // a choice's number, of its place's height
