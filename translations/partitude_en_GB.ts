@@ -217,6 +217,13 @@
     </message>
 </context>
 <context>
+    <name>ChoiceBoard</name>
+    <message>
+        <source>Ring the fraction that is equal to the one in the question.</source>
+        <translation>Ring the fraction that is equal to the one in the question.</translation>
+    </message>
+</context>
+<context>
     <name>ChoiceCards</name>
     <message>
         <source>answer cards</source>
@@ -246,6 +253,73 @@ Click Goodbye and choose another one for now.</translation>
     <message>
         <source>Goodbye</source>
         <translation>Goodbye</translation>
+    </message>
+</context>
+<context>
+    <name>Equivalent</name>
+    <message>
+        <source>%1 equals how many %2?</source>
+        <translation>%1 equals how many %2?</translation>
+    </message>
+    <message>
+        <source>%1 equals %2 out of how many?</source>
+        <translation>%1 equals %2 out of how many?</translation>
+    </message>
+    <message>
+        <source>How many %1 equal %2?</source>
+        <translation>How many %1 equal %2?</translation>
+    </message>
+    <message>
+        <source>%1 out of how many equals %2?</source>
+        <translation>%1 out of how many equals %2?</translation>
+    </message>
+    <message>
+        <source>%1 is equal to %2.</source>
+        <translation>%1 is equal to %2.</translation>
+    </message>
+    <message>
+        <source>Type the missing number in the box first!</source>
+        <translation>Type the missing number in the box first!</translation>
+    </message>
+    <message>
+        <source>The missing number is never 0: look at the fractions again.</source>
+        <translation>The missing number is never 0: look at the fractions again.</translation>
+    </message>
+    <message>
+        <source>%1 ÷ %2 = %3, so the top is multiplied by %3 too: %4 × %3 = %5.</source>
+        <translation>%1 ÷ %2 = %3, so the top is multiplied by %3 too: %4 × %3 = %5.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 = %3, so the top is multiplied by %2 too: %4 × %2 = %5.</source>
+        <translation>%1 × %2 = %3, so the top is multiplied by %2 too: %4 × %2 = %5.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 = %3, so the bottom is multiplied by %2 too: %4 × %2 = %5.</source>
+        <translation>%1 × %2 = %3, so the bottom is multiplied by %2 too: %4 × %2 = %5.</translation>
+    </message>
+    <message>
+        <source>%1 ÷ %2 = %3, so the top is divided by %2 too: %4 ÷ %2 = %5.</source>
+        <translation>%1 ÷ %2 = %3, so the top is divided by %2 too: %4 ÷ %2 = %5.</translation>
+    </message>
+    <message>
+        <source>%1 ÷ %2 = %3, so the bottom is divided by %2 too: %4 ÷ %2 = %5.</source>
+        <translation>%1 ÷ %2 = %3, so the bottom is divided by %2 too: %4 ÷ %2 = %5.</translation>
+    </message>
+    <message>
+        <source>Which fraction is equal to %1?</source>
+        <translation>Which fraction is equal to %1?</translation>
+    </message>
+    <message>
+        <source>Choose one of the cards first!</source>
+        <translation>Choose one of the cards first!</translation>
+    </message>
+    <message>
+        <source>%1 is not equal to %2: %3 is.</source>
+        <translation>%1 is not equal to %2: %3 is.</translation>
+    </message>
+    <message>
+        <source>Multiply the top and the bottom by the same number: %1 × %2 = %3 and %4 × %2 = %5.</source>
+        <translation>Multiply the top and the bottom by the same number: %1 × %2 = %3 and %4 × %2 = %5.</translation>
     </message>
 </context>
 <context>
@@ -1112,6 +1186,21 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
     <message>
         <source>--scale %1 is too large for this display (%2 x %3): a screen would not fit on it.</source>
         <translation>--scale %1 is too large for this display (%2 x %3): a screen would not fit on it.</translation>
+    </message>
+</context>
+<context>
+    <name>PairBoard</name>
+    <message>
+        <source>the missing number</source>
+        <translation>the missing number</translation>
+    </message>
+    <message>
+        <source>Find the missing number. Use the fraction wall to help you.</source>
+        <translation>Find the missing number. Use the fraction wall to help you.</translation>
+    </message>
+    <message>
+        <source>Find the missing number in each pair of equal fractions.</source>
+        <translation>Find the missing number in each pair of equal fractions.</translation>
     </message>
 </context>
 <context>

@@ -217,6 +217,13 @@
     </message>
 </context>
 <context>
+    <name>ChoiceBoard</name>
+    <message>
+        <source>Ring the fraction that is equal to the one in the question.</source>
+        <translation>Entoure la fraction qui est égale à celle de la question.</translation>
+    </message>
+</context>
+<context>
     <name>ChoiceCards</name>
     <message>
         <source>answer cards</source>
@@ -246,6 +253,73 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <message>
         <source>Goodbye</source>
         <translation>Au revoir</translation>
+    </message>
+</context>
+<context>
+    <name>Equivalent</name>
+    <message>
+        <source>%1 equals how many %2?</source>
+        <translation>%1 égale combien de %2&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 equals %2 out of how many?</source>
+        <translation>%1 égale %2 sur combien&#xa0;?</translation>
+    </message>
+    <message>
+        <source>How many %1 equal %2?</source>
+        <translation>Combien de %1 égalent %2&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 out of how many equals %2?</source>
+        <translation>%1 sur combien égale %2&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 is equal to %2.</source>
+        <translation>%1 est égal à %2.</translation>
+    </message>
+    <message>
+        <source>Type the missing number in the box first!</source>
+        <translation>Écris d&apos;abord le nombre manquant dans la case&#xa0;!</translation>
+    </message>
+    <message>
+        <source>The missing number is never 0: look at the fractions again.</source>
+        <translation>Le nombre manquant n&apos;est jamais 0&#xa0;: regarde encore les fractions.</translation>
+    </message>
+    <message>
+        <source>%1 ÷ %2 = %3, so the top is multiplied by %3 too: %4 × %3 = %5.</source>
+        <translation>%1 ÷ %2 = %3, donc le nombre du haut est aussi multiplié par %3&#xa0;: %4 × %3 = %5.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 = %3, so the top is multiplied by %2 too: %4 × %2 = %5.</source>
+        <translation>%1 × %2 = %3, donc le nombre du haut est aussi multiplié par %2&#xa0;: %4 × %2 = %5.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 = %3, so the bottom is multiplied by %2 too: %4 × %2 = %5.</source>
+        <translation>%1 × %2 = %3, donc le nombre du bas est aussi multiplié par %2&#xa0;: %4 × %2 = %5.</translation>
+    </message>
+    <message>
+        <source>%1 ÷ %2 = %3, so the top is divided by %2 too: %4 ÷ %2 = %5.</source>
+        <translation>%1 ÷ %2 = %3, donc le nombre du haut est aussi divisé par %2&#xa0;: %4 ÷ %2 = %5.</translation>
+    </message>
+    <message>
+        <source>%1 ÷ %2 = %3, so the bottom is divided by %2 too: %4 ÷ %2 = %5.</source>
+        <translation>%1 ÷ %2 = %3, donc le nombre du bas est aussi divisé par %2&#xa0;: %4 ÷ %2 = %5.</translation>
+    </message>
+    <message>
+        <source>Which fraction is equal to %1?</source>
+        <translation>Quelle fraction est égale à %1&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Choose one of the cards first!</source>
+        <translation>Choisis d&apos;abord une des cartes&#xa0;!</translation>
+    </message>
+    <message>
+        <source>%1 is not equal to %2: %3 is.</source>
+        <translation>%1 n&apos;est pas égal à %2&#xa0;: %3 l&apos;est.</translation>
+    </message>
+    <message>
+        <source>Multiply the top and the bottom by the same number: %1 × %2 = %3 and %4 × %2 = %5.</source>
+        <translation>Multiplie le nombre du haut et celui du bas par le même nombre&#xa0;: %1 × %2 = %3 et %4 × %2 = %5.</translation>
     </message>
 </context>
 <context>
@@ -1112,6 +1186,21 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     <message>
         <source>--scale %1 is too large for this display (%2 x %3): a screen would not fit on it.</source>
         <translation>--scale %1 est trop grand pour cet affichage (%2 x %3)&#xa0;: un écran n&apos;y tiendrait pas.</translation>
+    </message>
+</context>
+<context>
+    <name>PairBoard</name>
+    <message>
+        <source>the missing number</source>
+        <translation>le nombre manquant</translation>
+    </message>
+    <message>
+        <source>Find the missing number. Use the fraction wall to help you.</source>
+        <translation>Trouve le nombre manquant. Aide-toi du mur des fractions.</translation>
+    </message>
+    <message>
+        <source>Find the missing number in each pair of equal fractions.</source>
+        <translation>Trouve le nombre manquant dans chaque paire de fractions égales.</translation>
     </message>
 </context>
 <context>

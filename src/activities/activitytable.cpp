@@ -1,5 +1,8 @@
 #include "activitytable.h"
 
+#include "activities/equivalent/choiceboard.h"
+#include "activities/equivalent/equivalentscreens.h"
+#include "activities/equivalent/pairboard.h"
 #include "activities/halves/y2fractions.h"
 #include "activities/halvesnumbers/picturesboard.h"
 #include "activities/halvesnumbers/y2fractions3.h"
@@ -49,10 +52,10 @@ const QVector<Row>& all()
         {"y3Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 2"), "y3fract2", kEither},
         {"y3Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 3"), "y3fract3", kEither},
 
-        {"y4Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 3"), "y4fract3", kEither},
-        {"y4Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 2"), "y4fract2", kEither},
+        {"y4Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 3"), "y4fract3", kEither, make<y4fract3>, nullptr, ChoiceBoard::worksheet},
+        {"y4Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 2"), "y4fract2", kEither, make<y4fract2>, nullptr, PairBoard::worksheet},
         {"y4Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Write A Fraction"), "y4fract4", kEither},
-        {"y4Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 1"), "y4fract1", kEither},
+        {"y4Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 1"), "y4fract1", kEither, make<y4fract1>, nullptr, PairBoard::wallWorksheet},
         {"y4Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "More Than, Less Than"), "y4fract5", kEither},
 
         {"y5Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Fractions of Numbers"), "y5fract1", kEither},
