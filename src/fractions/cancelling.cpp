@@ -8,11 +8,6 @@
 namespace Cancelling {
 
 namespace {
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Cancelling", text);
-}
-
 QString written(std::int64_t top, std::int64_t bottom)
 {
     return QStringLiteral("%1/%2").arg(top).arg(bottom);
@@ -31,12 +26,14 @@ QString Question::answerText() const
 
 QString Question::instruction() const
 {
-    return tr("Cancel %1 to its simplest form.").arg(text());
+    return QCoreApplication::translate("Cancelling", "Cancel %1 to its simplest form.").arg(text());
 }
 
 QString Question::statement() const
 {
-    return tr("%1 cancels to %2: divide the top and the bottom by %3.").arg(text(), answerText()).arg(factor);
+    return QCoreApplication::translate("Cancelling", "%1 cancels to %2: divide the top and the bottom by %3.")
+        .arg(text(), answerText())
+        .arg(factor);
 }
 
 Question draw(Random::Source& rnd, const Question* last)
@@ -58,23 +55,27 @@ Verdict check(const Question& q, const QString& top, const QString& bottom)
     const std::int64_t t = top.toLongLong(&topIsNumber);
     const std::int64_t b = bottom.toLongLong(&bottomIsNumber);
     if (!topIsNumber || !bottomIsNumber)
-        return Verdict::notCheckable(tr("Type a top number and a bottom number first!"));
+        return Verdict::notCheckable(
+            QCoreApplication::translate("Cancelling", "Type a top number and a bottom number first!"));
     if (b == 0)
-        return Verdict::notCheckable(tr("A bottom number cannot be 0."));
+        return Verdict::notCheckable(QCoreApplication::translate("Cancelling", "A bottom number cannot be 0."));
     if (Fractions::Fraction(t, b) != Fractions::Fraction(q.simplestTop, q.simplestBottom))
         return Verdict::wrong(q.statement());
     if (t == q.simplestTop && b == q.simplestBottom)
         return Verdict::right(q.statement());
     if (t == q.top() && b == q.bottom())
         return Verdict::notCheckable(
-            tr("%1 is the fraction to cancel: divide its top and its bottom by the same number.").arg(q.text()));
+            QCoreApplication::translate(
+                "Cancelling", "%1 is the fraction to cancel: divide its top and its bottom by the same number.")
+                .arg(q.text()));
     return Verdict::notCheckable(
-        tr("%1 is equal to %2, but it can be cancelled further.").arg(q.text(), written(t, b)));
+        QCoreApplication::translate("Cancelling", "%1 is equal to %2, but it can be cancelled further.")
+            .arg(q.text(), written(t, b)));
 }
 
 QString hint(const Question& q)
 {
-    return tr("The highest common factor of %1 and %2 is %3.")
+    return QCoreApplication::translate("Cancelling", "The highest common factor of %1 and %2 is %3.")
         .arg(q.top())
         .arg(q.bottom())
         .arg(Fractions::hcf(q.top(), q.bottom()));

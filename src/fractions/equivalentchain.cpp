@@ -11,11 +11,6 @@ namespace EquivalentChain {
 namespace {
 const QString kMissing = QStringLiteral("?");
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("EquivalentChain", text);
-}
-
 QString written(const QString& top, const QString& bottom)
 {
     return top + QLatin1Char('/') + bottom;
@@ -49,7 +44,8 @@ QString Question::answerText() const
 
 QString Question::instruction() const
 {
-    return tr("Fill in the missing numbers so that the fractions are equal.");
+    return QCoreApplication::translate("EquivalentChain",
+                                       "Fill in the missing numbers so that the fractions are equal.");
 }
 
 QString Question::spoken() const
@@ -58,13 +54,15 @@ QString Question::spoken() const
     for (int f = 0; f < kMade; ++f) {
         const int t = number(2 * f), b = number(2 * f + 1);
         if (missing[std::size_t(2 * f)])
-            said << tr("how many %1").arg(Fractions::partsName(b));
+            said << QCoreApplication::translate("EquivalentChain", "how many %1").arg(Fractions::partsName(b));
         else if (missing[std::size_t(2 * f + 1)])
-            said << tr("%1 over what number").arg(Fractions::numberWord(t));
+            said << QCoreApplication::translate("EquivalentChain", "%1 over what number")
+                        .arg(Fractions::numberWord(t));
         else
             said << Fractions::words(t, b);
     }
-    return tr("%1 equals %2, equals %3, equals %4").arg(said[0], said[1], said[2], said[3]);
+    return QCoreApplication::translate("EquivalentChain", "%1 equals %2, equals %3, equals %4")
+        .arg(said[0], said[1], said[2], said[3]);
 }
 
 Question draw(Random::Source& rnd, const Question* last)
@@ -107,9 +105,11 @@ Verdict check(const Question& q, const QStringList& typed)
         bool isNumber = false;
         numbers[std::size_t(i)] = text.toLongLong(&isNumber);
         if (!isNumber)
-            return Verdict::notCheckable(tr("Fill in every box first!"));
+            return Verdict::notCheckable(
+                QCoreApplication::translate("EquivalentChain", "Fill in every box first!"));
         if (i % 2 == 1 && numbers[std::size_t(i)] == 0)
-            return Verdict::notCheckable(tr("A bottom number cannot be 0."));
+            return Verdict::notCheckable(
+                QCoreApplication::translate("EquivalentChain", "A bottom number cannot be 0."));
     }
     const QString statement = q.answerText() + QLatin1Char('.');
     const Fractions::Fraction first(q.top, q.bottom);
@@ -121,8 +121,9 @@ Verdict check(const Question& q, const QStringList& typed)
 
 QString hint(const Question& q)
 {
-    return tr("Every fraction in the chain is %1 with top and bottom multiplied by the same number: "
-              "× %2, × %3, × %4.")
+    return QCoreApplication::translate("EquivalentChain",
+                                       "Every fraction in the chain is %1 with top and bottom multiplied by the same "
+                                       "number: × %2, × %3, × %4.")
         .arg(written(QString::number(q.top), QString::number(q.bottom)))
         .arg(q.multipliers[0])
         .arg(q.multipliers[1])

@@ -61,7 +61,8 @@ void TestEquivalence::chainVerdicts_data()
     QTest::newRow("leading zero") << QStringList{"04", "09", "8"} << int(Verdict::Right) << chain;
     QTest::newRow("one wrong") << QStringList{"4", "9", "9"} << int(Verdict::Wrong) << chain;
     QTest::newRow("top of 0") << QStringList{"0", "9", "8"} << int(Verdict::Wrong) << chain;
-    QTest::newRow("a box blank") << QStringList{"4", "", "8"} << int(Verdict::NotCheckable) << "Fill in every box first!";
+    QTest::newRow("a box blank") << QStringList{"4", "", "8"} << int(Verdict::NotCheckable)
+                                 << "Fill in every box first!";
     QTest::newRow("bottom of 0") << QStringList{"4", "0", "8"} << int(Verdict::NotCheckable)
                                  << "A bottom number cannot be 0.";
 }

@@ -23,9 +23,11 @@ ChainBoard::ChainBoard(QWidget* parent)
     const QFont font = Twips::font(QStringLiteral("Times New Roman"), kBoxPoints, true);
     // A top of 0 is a fraction, only a wrong one; a bottom of 0 the check refuses.
     const bool zeroAllowed = true;
-    Text1 = m_chain->addBox(Picture2, QStringLiteral("Text1"), QString(), font, digits, zeroAllowed);
-    Text2 = m_chain->addBox(Picture2, QStringLiteral("Text2"), QString(), font, digits, zeroAllowed);
-    Text3 = m_chain->addBox(Picture2, QStringLiteral("Text3"), QString(), font, digits, zeroAllowed);
+    // Each question names its boxes by their places in the chain.
+    const QString missing = tr("missing number");
+    Text1 = m_chain->addBox(Picture2, QStringLiteral("Text1"), missing, font, digits, zeroAllowed);
+    Text2 = m_chain->addBox(Picture2, QStringLiteral("Text2"), missing, font, digits, zeroAllowed);
+    Text3 = m_chain->addBox(Picture2, QStringLiteral("Text3"), missing, font, digits, zeroAllowed);
     connect(m_chain, &AnswerChain::complete, this, &KitBoard::answered);
     connect(m_chain, &AnswerChain::refused, this,
             [this](QLineEdit*, AnswerChain::Reason) { emit refused(check().statement); });
@@ -122,7 +124,8 @@ Worksheets::Sheet ChainBoard::worksheet(Random::Source& rnd)
 {
     return Worksheets::drawSheet<EquivalentChain::Question>(
         QCoreApplication::translate("Activities", "Equivalent Fractions"),
-        QCoreApplication::translate("ChainBoard", "Write the missing numbers so that every fraction in the chain is equal."),
+        QCoreApplication::translate("ChainBoard",
+                                    "Write the missing numbers so that every fraction in the chain is equal."),
         [&rnd](const EquivalentChain::Question* last) { return EquivalentChain::draw(rnd, last); },
         [](const EquivalentChain::Question& q) {
             Worksheets::Row row;
