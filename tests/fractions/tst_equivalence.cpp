@@ -118,7 +118,6 @@ void TestEquivalence::cancelVerdicts_data()
     // 18/24
     const QString worked = QStringLiteral("18/24 cancels to 3/4: divide the top and the bottom by 6.");
     QTest::newRow("simplest") << "3" << "4" << int(Verdict::Right) << worked;
-    QTest::newRow("simplest, leading zero") << "03" << "4" << int(Verdict::Right) << worked;
     QTest::newRow("equal, cancel further") << "9" << "12" << int(Verdict::NotCheckable)
                                            << "18/24 is equal to 9/12, but it can be cancelled further.";
     QTest::newRow("equal, larger") << "36" << "48" << int(Verdict::NotCheckable)
@@ -131,8 +130,6 @@ void TestEquivalence::cancelVerdicts_data()
     QTest::newRow("bottom of 0") << "3" << "0" << int(Verdict::NotCheckable) << "A bottom number cannot be 0.";
     QTest::newRow("bottom blank") << "3" << "" << int(Verdict::NotCheckable)
                                   << "Type a top number and a bottom number first!";
-    QTest::newRow("both blank") << "" << "" << int(Verdict::NotCheckable)
-                                << "Type a top number and a bottom number first!";
 }
 
 void TestEquivalence::cancelVerdicts()
@@ -161,7 +158,6 @@ void TestEquivalence::hints()
     QCOMPARE(chain.spoken(), QStringLiteral("two thirds equals four over what number, equals how many ninths, "
                                             "equals eight over what number"));
     QCOMPARE(Cancelling::hint({3, 4, 6}), QStringLiteral("The highest common factor of 18 and 24 is 6."));
-    QCOMPARE(Cancelling::hint({7, 10, 9}), QStringLiteral("The highest common factor of 63 and 90 is 9."));
 }
 
 QTEST_MAIN(TestEquivalence)
