@@ -80,6 +80,8 @@ void TestEquivalent::chainByKeyboard()
     for (int i = 0; i < EquivalentChain::kNumbers; ++i) {
         if (!q.missing[std::size_t(i)])
             continue;
+        // Each box stands in its missing number's place, and takes its turn.
+        QCOMPARE(boxes[box]->geometry(), board->Picture2->numberPlace(i / 2 + 1, i % 2 == 1));
         QCOMPARE(QApplication::focusWidget(), boxes[box++]);
         type(QString::number(q.number(i)));
     }
