@@ -217,6 +217,77 @@
     </message>
 </context>
 <context>
+    <name>CancelBoard</name>
+    <message>
+        <source>top number</source>
+        <translation>top number</translation>
+    </message>
+    <message>
+        <source>bottom number</source>
+        <translation>bottom number</translation>
+    </message>
+    <message>
+        <source>%1 equals</source>
+        <extracomment>the fraction to cancel, before the answer boxes: &quot;eighteen 24ths equals&quot;</extracomment>
+        <translation>%1 equals</translation>
+    </message>
+    <message>
+        <source>Cancel each fraction to its simplest form.</source>
+        <translation>Cancel each fraction to its simplest form.</translation>
+    </message>
+</context>
+<context>
+    <name>Cancelling</name>
+    <message>
+        <source>Cancel %1 to its simplest form.</source>
+        <translation>Cancel %1 to its simplest form.</translation>
+    </message>
+    <message>
+        <source>%1 cancels to %2: divide the top and the bottom by %3.</source>
+        <translation>%1 cancels to %2: divide the top and the bottom by %3.</translation>
+    </message>
+    <message>
+        <source>Type a top number and a bottom number first!</source>
+        <translation>Type a top number and a bottom number first!</translation>
+    </message>
+    <message>
+        <source>A bottom number cannot be 0.</source>
+        <translation>A bottom number cannot be 0.</translation>
+    </message>
+    <message>
+        <source>%1 is the fraction to cancel: divide its top and its bottom by the same number.</source>
+        <translation>%1 is the fraction to cancel: divide its top and its bottom by the same number.</translation>
+    </message>
+    <message>
+        <source>%1 is equal to %2, but it can be cancelled further.</source>
+        <translation>%1 is equal to %2, but it can be cancelled further.</translation>
+    </message>
+    <message>
+        <source>The highest common factor of %1 and %2 is %3.</source>
+        <translation>The highest common factor of %1 and %2 is %3.</translation>
+    </message>
+</context>
+<context>
+    <name>ChainBoard</name>
+    <message>
+        <source>missing number</source>
+        <translation>missing number</translation>
+    </message>
+    <message>
+        <source>bottom number of fraction %1</source>
+        <extracomment>an answer box: &quot;top number of fraction 2&quot;</extracomment>
+        <translation>bottom number of fraction %1</translation>
+    </message>
+    <message>
+        <source>top number of fraction %1</source>
+        <translation>top number of fraction %1</translation>
+    </message>
+    <message>
+        <source>Write the missing numbers so that every fraction in the chain is equal.</source>
+        <translation>Write the missing numbers so that every fraction in the chain is equal.</translation>
+    </message>
+</context>
+<context>
     <name>ChoiceBoard</name>
     <message>
         <source>Ring the fraction that is equal to the one in the question.</source>
@@ -320,6 +391,37 @@ Click Goodbye and choose another one for now.</translation>
     <message>
         <source>Multiply the top and the bottom by the same number: %1 × %2 = %3 and %4 × %2 = %5.</source>
         <translation>Multiply the top and the bottom by the same number: %1 × %2 = %3 and %4 × %2 = %5.</translation>
+    </message>
+</context>
+<context>
+    <name>EquivalentChain</name>
+    <message>
+        <source>Fill in the missing numbers so that the fractions are equal.</source>
+        <translation>Fill in the missing numbers so that the fractions are equal.</translation>
+    </message>
+    <message>
+        <source>how many %1</source>
+        <translation>how many %1</translation>
+    </message>
+    <message>
+        <source>%1 over what number</source>
+        <translation>%1 over what number</translation>
+    </message>
+    <message>
+        <source>%1 equals %2, equals %3, equals %4</source>
+        <translation>%1 equals %2, equals %3, equals %4</translation>
+    </message>
+    <message>
+        <source>Fill in every box first!</source>
+        <translation>Fill in every box first!</translation>
+    </message>
+    <message>
+        <source>A bottom number cannot be 0.</source>
+        <translation>A bottom number cannot be 0.</translation>
+    </message>
+    <message>
+        <source>Every fraction in the chain is %1 with top and bottom multiplied by the same number: × %2, × %3, × %4.</source>
+        <translation>Every fraction in the chain is %1 with top and bottom multiplied by the same number: × %2, × %3, × %4.</translation>
     </message>
 </context>
 <context>

@@ -217,6 +217,77 @@
     </message>
 </context>
 <context>
+    <name>CancelBoard</name>
+    <message>
+        <source>top number</source>
+        <translation>nombre du haut</translation>
+    </message>
+    <message>
+        <source>bottom number</source>
+        <translation>nombre du bas</translation>
+    </message>
+    <message>
+        <source>%1 equals</source>
+        <extracomment>the fraction to cancel, before the answer boxes: &quot;eighteen 24ths equals&quot;</extracomment>
+        <translation>%1 est égal à</translation>
+    </message>
+    <message>
+        <source>Cancel each fraction to its simplest form.</source>
+        <translation>Simplifie chaque fraction au maximum.</translation>
+    </message>
+</context>
+<context>
+    <name>Cancelling</name>
+    <message>
+        <source>Cancel %1 to its simplest form.</source>
+        <translation>Simplifie la fraction %1 au maximum.</translation>
+    </message>
+    <message>
+        <source>%1 cancels to %2: divide the top and the bottom by %3.</source>
+        <translation>%1 se simplifie en %2 : divise le haut et le bas par %3.</translation>
+    </message>
+    <message>
+        <source>Type a top number and a bottom number first!</source>
+        <translation>Écris d&apos;abord un nombre en haut et un nombre en bas !</translation>
+    </message>
+    <message>
+        <source>A bottom number cannot be 0.</source>
+        <translation>Le nombre du bas ne peut pas être 0.</translation>
+    </message>
+    <message>
+        <source>%1 is the fraction to cancel: divide its top and its bottom by the same number.</source>
+        <translation>%1 est la fraction à simplifier : divise le haut et le bas par un même nombre.</translation>
+    </message>
+    <message>
+        <source>%1 is equal to %2, but it can be cancelled further.</source>
+        <translation>%1 est égal à %2, mais on peut encore simplifier.</translation>
+    </message>
+    <message>
+        <source>The highest common factor of %1 and %2 is %3.</source>
+        <translation>Le plus grand diviseur commun de %1 et de %2 est %3.</translation>
+    </message>
+</context>
+<context>
+    <name>ChainBoard</name>
+    <message>
+        <source>missing number</source>
+        <translation>nombre manquant</translation>
+    </message>
+    <message>
+        <source>bottom number of fraction %1</source>
+        <extracomment>an answer box: &quot;top number of fraction 2&quot;</extracomment>
+        <translation>nombre du bas de la fraction %1</translation>
+    </message>
+    <message>
+        <source>top number of fraction %1</source>
+        <translation>nombre du haut de la fraction %1</translation>
+    </message>
+    <message>
+        <source>Write the missing numbers so that every fraction in the chain is equal.</source>
+        <translation>Écris les nombres manquants pour que toutes les fractions de la chaîne soient égales.</translation>
+    </message>
+</context>
+<context>
     <name>ChoiceBoard</name>
     <message>
         <source>Ring the fraction that is equal to the one in the question.</source>
@@ -320,6 +391,37 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <message>
         <source>Multiply the top and the bottom by the same number: %1 × %2 = %3 and %4 × %2 = %5.</source>
         <translation>Multiplie le nombre du haut et celui du bas par le même nombre&#xa0;: %1 × %2 = %3 et %4 × %2 = %5.</translation>
+    </message>
+</context>
+<context>
+    <name>EquivalentChain</name>
+    <message>
+        <source>Fill in the missing numbers so that the fractions are equal.</source>
+        <translation>Écris les nombres manquants pour que les fractions soient égales.</translation>
+    </message>
+    <message>
+        <source>how many %1</source>
+        <translation>combien de %1</translation>
+    </message>
+    <message>
+        <source>%1 over what number</source>
+        <translation>%1 sur quel nombre</translation>
+    </message>
+    <message>
+        <source>%1 equals %2, equals %3, equals %4</source>
+        <translation>%1 est égal à %2, égal à %3, égal à %4</translation>
+    </message>
+    <message>
+        <source>Fill in every box first!</source>
+        <translation>Remplis d&apos;abord toutes les cases !</translation>
+    </message>
+    <message>
+        <source>A bottom number cannot be 0.</source>
+        <translation>Le nombre du bas ne peut pas être 0.</translation>
+    </message>
+    <message>
+        <source>Every fraction in the chain is %1 with top and bottom multiplied by the same number: × %2, × %3, × %4.</source>
+        <translation>Chaque fraction de la chaîne est %1, haut et bas multipliés par le même nombre : × %2, × %3, × %4.</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,10 @@
 #include "activities/equivalent/choiceboard.h"
 #include "activities/equivalent/equivalentscreens.h"
 #include "activities/equivalent/pairboard.h"
+#include "activities/equivalent/cancelboard.h"
+#include "activities/equivalent/chainboard.h"
+#include "activities/equivalent/y5fract2.h"
+#include "activities/equivalent/y5fract3.h"
 #include "activities/halves/y2fractions.h"
 #include "activities/halvesnumbers/picturesboard.h"
 #include "activities/halvesnumbers/y2fractions3.h"
@@ -59,8 +63,8 @@ const QVector<Row>& all()
         {"y4Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "More Than, Less Than"), "y4fract5", kEither},
 
         {"y5Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Fractions of Numbers"), "y5fract1", kEither},
-        {"y5Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions"), "y5fract2", kEither},
-        {"y5Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Cancelling"), "y5fract3", kEither},
+        {"y5Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions"), "y5fract2", kEither, make<y5fract2>, nullptr, ChainBoard::worksheet},
+        {"y5Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Cancelling"), "y5fract3", kEither, make<y5fract3>, nullptr, CancelBoard::worksheet},
         {"y5Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Mixed Numbers and Improper Fractions"), "y5Intro2", kEither, nullptr, nullptr, nullptr, true},
         {"y5Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Partitude"), "y5fract5", kEither},
 
