@@ -85,40 +85,26 @@ namespace {
         return q;
     }
 
-    // "parts", "small squares", "ducks": what is counted.
-    QString unitsCounted(const Question& q)
-    {
-        switch (q.picture) {
-        case Picture::HundredSquare:
-            return QCoreApplication::translate("NameFraction", "small squares");
-        case Picture::Pictures:
-            return Halves::setName(q.set);
-        case Picture::Shape:
-            break;
-        }
-        return QCoreApplication::translate("NameFraction", "parts");
-    }
-
 } // namespace
 
-QString Question::subject() const
+QString Question::noun() const
 {
     switch (picture) {
-    case Picture::HundredSquare:
-        return QCoreApplication::translate("NameFraction", "the square");
     case Picture::Pictures:
-        return QCoreApplication::translate("NameFraction", "the %1").arg(Halves::setName(set));
+        return Halves::setName(set);
+    case Picture::HundredSquare:
+        return shapeNoun(ShapeKind::SquareGrid);
     case Picture::Shape:
         break;
     }
-    return QCoreApplication::translate("NameFraction", "the %1").arg(shapeNoun(kind));
+    return shapeNoun(kind);
 }
 
 QString Question::instruction() const
 {
     if (picture == Picture::Pictures)
-        return QCoreApplication::translate("NameFraction", "What fraction of %1 are ringed?").arg(subject());
-    return QCoreApplication::translate("NameFraction", "What fraction of %1 is shaded?").arg(subject());
+        return QCoreApplication::translate("NameFraction", "What fraction of the %1 are ringed?").arg(noun());
+    return QCoreApplication::translate("NameFraction", "What fraction of the %1 is shaded?").arg(noun());
 }
 
 int answerDigits(Mode mode)
@@ -161,21 +147,26 @@ Verdict check(const Question& q, const QString& top, const QString& bottom)
     const bool ringed = q.picture == Picture::Pictures;
     if (Fractions::Fraction(t, b) == Fractions::Fraction(q.shaded, q.parts)) {
         if (t == q.shaded && b == q.parts)
-            return Verdict::right((ringed ? QCoreApplication::translate("NameFraction", "%1 of %2 are ringed.")
-                                          : QCoreApplication::translate("NameFraction", "%1 of %2 is shaded."))
-                                      .arg(counted(q), q.subject()));
+            return Verdict::right((ringed ? QCoreApplication::translate("NameFraction", "%1 of the %2 are ringed.")
+                                          : QCoreApplication::translate("NameFraction", "%1 of the %2 is shaded."))
+                                      .arg(counted(q), q.noun()));
         return Verdict::right(
-            (ringed ? QCoreApplication::translate("NameFraction", "%1 of %2 are ringed: that is %3.")
-                    : QCoreApplication::translate("NameFraction", "%1 of %2 is shaded: that is %3."))
-                .arg(counted(q), q.subject(), written(t, b)));
+            (ringed ? QCoreApplication::translate("NameFraction", "%1 of the %2 are ringed: that is %3.")
+                    : QCoreApplication::translate("NameFraction", "%1 of the %2 is shaded: that is %3."))
+                .arg(counted(q), q.noun(), written(t, b)));
     }
+    if (ringed)
+        return Verdict::wrong(QCoreApplication::translate("NameFraction", "%1 of the %2 are ringed: %3 of the %4 %2.")
+                                  .arg(counted(q), q.noun())
+                                  .arg(q.shaded)
+                                  .arg(q.parts));
     return Verdict::wrong(
-        (ringed ? QCoreApplication::translate("NameFraction", "%1 of %2 are ringed: %3 of the %4 %5.")
-                : QCoreApplication::translate("NameFraction", "%1 of %2 is shaded: %3 of its %4 %5."))
-            .arg(counted(q), q.subject())
+        (q.picture == Picture::HundredSquare
+             ? QCoreApplication::translate("NameFraction", "%1 of the %2 is shaded: %3 of its %4 small squares.")
+             : QCoreApplication::translate("NameFraction", "%1 of the %2 is shaded: %3 of its %4 parts."))
+            .arg(counted(q), q.noun())
             .arg(q.shaded)
-            .arg(q.parts)
-            .arg(unitsCounted(q)));
+            .arg(q.parts));
 }
 
 QString hint(const Question& q)

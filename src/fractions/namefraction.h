@@ -32,8 +32,8 @@ struct Question {
 
     // "What fraction of the strip is shaded?"
     QString instruction() const;
-    // "the strip", "the square", "the ducks": what the sentences talk about.
-    QString subject() const;
+    // What the sentences talk about: "strip", "square", "ducks".
+    QString noun() const;
 
     friend bool operator==(const Question& a, const Question& b)
     {

@@ -17,9 +17,9 @@ constexpr int kWallHeight = 1140;
 constexpr int kCardsHeight = 1500;
 constexpr int kGap = 90;
 // On a worksheet: the two fractions with a box between them for the sign.
-constexpr double kSheetHeight = 800;
-constexpr double kSheetFractionWidth = 700;
-constexpr double kSheetBoxSide = 500;
+constexpr double kSheetHeight = 1000;
+constexpr double kSheetFractionWidth = 0.9; // of the picture's height
+constexpr double kSheetBoxSide = 0.6;
 } // namespace
 
 CompareBoard::CompareBoard(QWidget* parent)
@@ -102,19 +102,22 @@ Worksheets::Sheet CompareBoard::worksheet(Random::Source& rnd)
         [&rnd](const CompareFractions::Question* last) { return CompareFractions::draw(rnd, last); },
         [](const CompareFractions::Question& q) {
             Worksheets::Row row;
-            row.question = q.instruction();
+            row.question = QCoreApplication::translate("CompareBoard", "Compare %1 and %2.")
+                               .arg(QStringLiteral("%1/%2").arg(q.leftTop).arg(q.leftBottom),
+                                    QStringLiteral("%1/%2").arg(q.rightTop).arg(q.rightBottom));
             row.answer = q.statement();
             row.pictureHeight = kSheetHeight;
             row.picture = [q](QPainter& painter, const QRectF& box) {
-                const double left = box.center().x() - kSheetBoxSide / 2 - kSheetFractionWidth;
-                const QRectF leftFraction(left, box.top(), kSheetFractionWidth, box.height());
-                const QRectF rightFraction(box.center().x() + kSheetBoxSide / 2, box.top(), kSheetFractionWidth,
-                                           box.height());
+                // Measured from the height the sheet gives, which may be less than asked.
+                const double fractionWidth = box.height() * kSheetFractionWidth;
+                const double side = box.height() * kSheetBoxSide;
+                const QRectF leftFraction(box.center().x() - side / 2 - fractionWidth, box.top(), fractionWidth, box.height());
+                const QRectF rightFraction(box.center().x() + side / 2, box.top(), fractionWidth, box.height());
                 const double size = std::min(DrawingStyle::fractionSize(leftFraction.size(), q.leftTop, q.leftBottom),
                                              DrawingStyle::fractionSize(rightFraction.size(), q.rightTop, q.rightBottom));
                 DrawingStyle::paintFraction(painter, leftFraction, q.leftTop, q.leftBottom, size);
                 DrawingStyle::paintFraction(painter, rightFraction, q.rightTop, q.rightBottom, size);
-                QRectF sign(0, 0, kSheetBoxSide, kSheetBoxSide);
+                QRectF sign(0, 0, side, side);
                 sign.moveCenter(box.center());
                 painter.drawRect(sign);
             };

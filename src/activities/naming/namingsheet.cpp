@@ -13,12 +13,12 @@ namespace NamingSheet {
 namespace {
 // Twips on the sheet.
 constexpr double kShapeHeight = 1100;
-constexpr double kSquareSide = 1500;
-constexpr double kPicture = 520;
+constexpr double kSquareSide = 1200;
+constexpr double kPicture = 900;
 constexpr double kInset = 30; // so an outline is never clipped
 constexpr double kRingWidth = 30;
-constexpr double kPictureFill = 0.8; // of its place: room for the ring
-constexpr int kPicturesPerRow = 12;
+constexpr double kPictureFill = 0.75; // of its place: room for the ring
+constexpr double kRingFill = 0.95;
 constexpr int kSide = 10; // a hundred square's columns and rows
 
 void paintShape(QPainter& painter, const QRectF& box, const NameFraction::Question& q)
@@ -46,9 +46,11 @@ void paintHundredSquare(QPainter& painter, const QRectF& box, int shaded)
 void paintPictures(QPainter& painter, const QRectF& box, const NameFraction::Question& q)
 {
     const QPixmap picture = Pictures::get(QString::fromLatin1(Halves::kPictureSets[q.set - 1].file));
-    const double size = std::min(kPicture, box.width() / kPicturesPerRow);
+    // One row, as large as the box allows, centred.
+    const double size = std::min(box.height(), box.width() / q.parts);
+    const double left = box.center().x() - size * q.parts / 2;
     for (int n = 0; n < q.parts; ++n) {
-        const QRectF place(box.left() + n * size, box.top(), size, size);
+        const QRectF place(left + n * size, box.top(), size, size);
         QRectF inside(0, 0, size * kPictureFill, size * kPictureFill);
         inside.moveCenter(place.center());
         painter.drawPixmap(inside, picture, QRectF(picture.rect()));
@@ -56,7 +58,8 @@ void paintPictures(QPainter& painter, const QRectF& box, const NameFraction::Que
             painter.save();
             painter.setPen(QPen(PartStyle::kOutline, kRingWidth));
             painter.setBrush(Qt::NoBrush);
-            painter.drawEllipse(place.adjusted(kInset, kInset, -kInset, -kInset));
+            const double inset = size * (1 - kRingFill) / 2;
+            painter.drawEllipse(place.adjusted(inset, inset, -inset, -inset));
             painter.restore();
         }
     }
