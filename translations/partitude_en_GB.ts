@@ -327,6 +327,80 @@ Click Goodbye and choose another one for now.</translation>
     </message>
 </context>
 <context>
+    <name>CompareBoard</name>
+    <message>
+        <source>Write &lt;, = or &gt; in the box between the two fractions.</source>
+        <translation>Write &lt;, = or &gt; in the box between the two fractions.</translation>
+    </message>
+    <message>
+        <source>Compare %1 and %2.</source>
+        <translation>Compare %1 and %2.</translation>
+    </message>
+</context>
+<context>
+    <name>CompareFractions</name>
+    <message>
+        <source>%1 is equal to %2: multiply the top and the bottom of %3 by %4 to make %5.</source>
+        <translation>%1 is equal to %2: multiply the top and the bottom of %3 by %4 to make %5.</translation>
+    </message>
+    <message>
+        <source>%1 is less than %2: both are counted in %3, and %4 is less than %5.</source>
+        <translation>%1 is less than %2: both are counted in %3, and %4 is less than %5.</translation>
+    </message>
+    <message>
+        <source>%1 is less than %2: %3 are smaller pieces than %4.</source>
+        <translation>%1 is less than %2: %3 are smaller pieces than %4.</translation>
+    </message>
+    <message>
+        <source>%1 is more than %2: both are counted in %3, and %4 is more than %5.</source>
+        <translation>%1 is more than %2: both are counted in %3, and %4 is more than %5.</translation>
+    </message>
+    <message>
+        <source>%1 is more than %2: %3 are bigger pieces than %4.</source>
+        <translation>%1 is more than %2: %3 are bigger pieces than %4.</translation>
+    </message>
+    <message>
+        <source>Is %1 less than, equal to or more than %2?</source>
+        <translation>Is %1 less than, equal to or more than %2?</translation>
+    </message>
+    <message>
+        <source>%1 is less than %2.</source>
+        <translation>%1 is less than %2.</translation>
+    </message>
+    <message>
+        <source>%1 is equal to %2.</source>
+        <translation>%1 is equal to %2.</translation>
+    </message>
+    <message>
+        <source>%1 is more than %2.</source>
+        <translation>%1 is more than %2.</translation>
+    </message>
+    <message>
+        <source>is less than</source>
+        <translation>is less than</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>is equal to</translation>
+    </message>
+    <message>
+        <source>is more than</source>
+        <translation>is more than</translation>
+    </message>
+    <message>
+        <source>Choose one of the three cards first!</source>
+        <translation>Choose one of the three cards first!</translation>
+    </message>
+    <message>
+        <source>Both bars are the same length. Which has more shaded: %1 or %2?</source>
+        <translation>Both bars are the same length. Which has more shaded: %1 or %2?</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 and %2</translation>
+    </message>
+</context>
+<context>
     <name>Equivalent</name>
     <message>
         <source>%1 equals how many %2?</source>
@@ -1221,6 +1295,92 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
     </message>
 </context>
 <context>
+    <name>NameFraction</name>
+    <message>
+        <source>What fraction of the %1 are ringed?</source>
+        <translation>What fraction of the %1 are ringed?</translation>
+    </message>
+    <message>
+        <source>What fraction of the %1 is shaded?</source>
+        <translation>What fraction of the %1 is shaded?</translation>
+    </message>
+    <message>
+        <source>Type the top number and the bottom number first!</source>
+        <translation>Type the top number and the bottom number first!</translation>
+    </message>
+    <message>
+        <source>The bottom number cannot be 0: count all the parts.</source>
+        <translation>The bottom number cannot be 0: count all the parts.</translation>
+    </message>
+    <message>
+        <source>The top number cannot be 0: count the ringed pictures.</source>
+        <translation>The top number cannot be 0: count the ringed pictures.</translation>
+    </message>
+    <message>
+        <source>The top number cannot be 0: count the shaded parts.</source>
+        <translation>The top number cannot be 0: count the shaded parts.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 are ringed.</source>
+        <translation>%1 of the %2 are ringed.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 is shaded.</source>
+        <translation>%1 of the %2 is shaded.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 are ringed: that is %3.</source>
+        <translation>%1 of the %2 are ringed: that is %3.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 is shaded: that is %3.</source>
+        <translation>%1 of the %2 is shaded: that is %3.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 are ringed: %3 of the %4 %2.</source>
+        <translation>%1 of the %2 are ringed: %3 of the %4 %2.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 is shaded: %3 of its %4 small squares.</source>
+        <translation>%1 of the %2 is shaded: %3 of its %4 small squares.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 is shaded: %3 of its %4 parts.</source>
+        <translation>%1 of the %2 is shaded: %3 of its %4 parts.</translation>
+    </message>
+    <message>
+        <source>Each small square is 1/100; each column is 1/10.</source>
+        <translation>Each small square is 1/100; each column is 1/10.</translation>
+    </message>
+    <message>
+        <source>Count the shaded squares: %1.</source>
+        <translation>Count the shaded squares: %1.</translation>
+    </message>
+    <message>
+        <source>Count all the %1: %2. That is the bottom number. Count the ringed %1: %3. That is the top number.</source>
+        <translation>Count all the %1: %2. That is the bottom number. Count the ringed %1: %3. That is the top number.</translation>
+    </message>
+    <message>
+        <source>Count all the equal parts: %1. That is the bottom number. Count the shaded parts: %2. That is the top number.</source>
+        <translation>Count all the equal parts: %1. That is the bottom number. Count the shaded parts: %2. That is the top number.</translation>
+    </message>
+</context>
+<context>
+    <name>NamingBoard</name>
+    <message>
+        <source>top number</source>
+        <translation>top number</translation>
+    </message>
+    <message>
+        <source>bottom number</source>
+        <translation>bottom number</translation>
+    </message>
+    <message>
+        <source>Write the fraction each picture shows: the top number over the bottom number.</source>
+        <translation>Write the fraction each picture shows: the top number over the bottom number.</translation>
+    </message>
+</context>
+<context>
     <name>NumberLine</name>
     <message>
         <source>a number line</source>
@@ -1354,6 +1514,13 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
         <source>no pictures yet</source>
         <translation>no pictures yet</translation>
     </message>
+    <message numerus="yes">
+        <source>%1, %n ringed</source>
+        <translation>
+            <numerusform>%1, %n ringed</numerusform>
+            <numerusform>%1, %n ringed</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Pictures</name>
@@ -1435,6 +1602,21 @@ Partitude looks for its pictures in the folder:
             <numerusform>a %1 cut into %2 equal parts, %n coloured</numerusform>
             <numerusform>a %1 cut into %2 equal parts, %n coloured</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>a %1 cut into %2 equal parts, %n shaded</source>
+        <translation>
+            <numerusform>a %1 cut into %2 equal parts, %n shaded</numerusform>
+            <numerusform>a %1 cut into %2 equal parts, %n shaded</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>shaded</source>
+        <translation>shaded</translation>
+    </message>
+    <message>
+        <source>not shaded</source>
+        <translation>not shaded</translation>
     </message>
 </context>
 <context>

@@ -244,11 +244,11 @@
     </message>
     <message>
         <source>%1 cancels to %2: divide the top and the bottom by %3.</source>
-        <translation>%1 se simplifie en %2 : divise le haut et le bas par %3.</translation>
+        <translation>%1 se simplifie en %2&#xa0;: divise le haut et le bas par %3.</translation>
     </message>
     <message>
         <source>Type a top number and a bottom number first!</source>
-        <translation>Écris d&apos;abord un nombre en haut et un nombre en bas !</translation>
+        <translation>Écris d&apos;abord un nombre en haut et un nombre en bas&#xa0;!</translation>
     </message>
     <message>
         <source>A bottom number cannot be 0.</source>
@@ -256,7 +256,7 @@
     </message>
     <message>
         <source>%1 is the fraction to cancel: divide its top and its bottom by the same number.</source>
-        <translation>%1 est la fraction à simplifier : divise le haut et le bas par un même nombre.</translation>
+        <translation>%1 est la fraction à simplifier&#xa0;: divise le haut et le bas par un même nombre.</translation>
     </message>
     <message>
         <source>%1 is equal to %2, but it can be cancelled further.</source>
@@ -324,6 +324,80 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <message>
         <source>Goodbye</source>
         <translation>Au revoir</translation>
+    </message>
+</context>
+<context>
+    <name>CompareBoard</name>
+    <message>
+        <source>Write &lt;, = or &gt; in the box between the two fractions.</source>
+        <translation>Écris &lt;, = ou &gt; dans la case entre les deux fractions.</translation>
+    </message>
+    <message>
+        <source>Compare %1 and %2.</source>
+        <translation>Compare %1 et %2.</translation>
+    </message>
+</context>
+<context>
+    <name>CompareFractions</name>
+    <message>
+        <source>%1 is equal to %2: multiply the top and the bottom of %3 by %4 to make %5.</source>
+        <translation>%1 est égal à %2 : multiplie le nombre du haut et le nombre du bas de %3 par %4 pour obtenir %5.</translation>
+    </message>
+    <message>
+        <source>%1 is less than %2: both are counted in %3, and %4 is less than %5.</source>
+        <translation>%1 est plus petit que %2 : les deux se comptent en %3, et %4 est plus petit que %5.</translation>
+    </message>
+    <message>
+        <source>%1 is less than %2: %3 are smaller pieces than %4.</source>
+        <translation>%1 est plus petit que %2 : les %3 sont des parts plus petites que les %4.</translation>
+    </message>
+    <message>
+        <source>%1 is more than %2: both are counted in %3, and %4 is more than %5.</source>
+        <translation>%1 est plus grand que %2 : les deux se comptent en %3, et %4 est plus grand que %5.</translation>
+    </message>
+    <message>
+        <source>%1 is more than %2: %3 are bigger pieces than %4.</source>
+        <translation>%1 est plus grand que %2 : les %3 sont des parts plus grandes que les %4.</translation>
+    </message>
+    <message>
+        <source>Is %1 less than, equal to or more than %2?</source>
+        <translation>%1 est-il plus petit que, égal à ou plus grand que %2 ?</translation>
+    </message>
+    <message>
+        <source>%1 is less than %2.</source>
+        <translation>%1 est plus petit que %2.</translation>
+    </message>
+    <message>
+        <source>%1 is equal to %2.</source>
+        <translation>%1 est égal à %2.</translation>
+    </message>
+    <message>
+        <source>%1 is more than %2.</source>
+        <translation>%1 est plus grand que %2.</translation>
+    </message>
+    <message>
+        <source>is less than</source>
+        <translation>est plus petit que</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>est égal à</translation>
+    </message>
+    <message>
+        <source>is more than</source>
+        <translation>est plus grand que</translation>
+    </message>
+    <message>
+        <source>Choose one of the three cards first!</source>
+        <translation>Choisis d&apos;abord une des trois cartes !</translation>
+    </message>
+    <message>
+        <source>Both bars are the same length. Which has more shaded: %1 or %2?</source>
+        <translation>Les deux barres ont la même longueur. Laquelle est la plus coloriée : %1 ou %2 ?</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
     </message>
 </context>
 <context>
@@ -413,7 +487,7 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     </message>
     <message>
         <source>Fill in every box first!</source>
-        <translation>Remplis d&apos;abord toutes les cases !</translation>
+        <translation>Remplis d&apos;abord toutes les cases&#xa0;!</translation>
     </message>
     <message>
         <source>A bottom number cannot be 0.</source>
@@ -421,7 +495,7 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     </message>
     <message>
         <source>Every fraction in the chain is %1 with top and bottom multiplied by the same number: × %2, × %3, × %4.</source>
-        <translation>Chaque fraction de la chaîne est %1, haut et bas multipliés par le même nombre : × %2, × %3, × %4.</translation>
+        <translation>Chaque fraction de la chaîne est %1, haut et bas multipliés par le même nombre&#xa0;: × %2, × %3, × %4.</translation>
     </message>
 </context>
 <context>
@@ -1221,6 +1295,92 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
 </context>
 <context>
+    <name>NameFraction</name>
+    <message>
+        <source>What fraction of the %1 are ringed?</source>
+        <translation>Quelle fraction des %1 est dans un cercle ?</translation>
+    </message>
+    <message>
+        <source>What fraction of the %1 is shaded?</source>
+        <translation>Quelle fraction du %1 est coloriée ?</translation>
+    </message>
+    <message>
+        <source>Type the top number and the bottom number first!</source>
+        <translation>Écris d&apos;abord le nombre du haut et le nombre du bas !</translation>
+    </message>
+    <message>
+        <source>The bottom number cannot be 0: count all the parts.</source>
+        <translation>Le nombre du bas ne peut pas être 0 : compte toutes les parts.</translation>
+    </message>
+    <message>
+        <source>The top number cannot be 0: count the ringed pictures.</source>
+        <translation>Le nombre du haut ne peut pas être 0 : compte les images dans un cercle.</translation>
+    </message>
+    <message>
+        <source>The top number cannot be 0: count the shaded parts.</source>
+        <translation>Le nombre du haut ne peut pas être 0 : compte les parts coloriées.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 are ringed.</source>
+        <translation>%1 des %2 sont dans un cercle.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 is shaded.</source>
+        <translation>%1 du %2 est colorié.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 are ringed: that is %3.</source>
+        <translation>%1 des %2 sont dans un cercle : c&apos;est %3.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 is shaded: that is %3.</source>
+        <translation>%1 du %2 est colorié : c&apos;est %3.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 are ringed: %3 of the %4 %2.</source>
+        <translation>%1 des %2 sont dans un cercle : %3 des %4 %2.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 is shaded: %3 of its %4 small squares.</source>
+        <translation>%1 du %2 est colorié : %3 de ses %4 petits carrés.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 is shaded: %3 of its %4 parts.</source>
+        <translation>%1 du %2 est colorié : %3 de ses %4 parts.</translation>
+    </message>
+    <message>
+        <source>Each small square is 1/100; each column is 1/10.</source>
+        <translation>Chaque petit carré vaut 1/100 ; chaque colonne vaut 1/10.</translation>
+    </message>
+    <message>
+        <source>Count the shaded squares: %1.</source>
+        <translation>Compte les carrés coloriés : %1.</translation>
+    </message>
+    <message>
+        <source>Count all the %1: %2. That is the bottom number. Count the ringed %1: %3. That is the top number.</source>
+        <translation>Compte tous les %1 : %2. C&apos;est le nombre du bas. Compte les %1 dans un cercle : %3. C&apos;est le nombre du haut.</translation>
+    </message>
+    <message>
+        <source>Count all the equal parts: %1. That is the bottom number. Count the shaded parts: %2. That is the top number.</source>
+        <translation>Compte toutes les parts égales : %1. C&apos;est le nombre du bas. Compte les parts coloriées : %2. C&apos;est le nombre du haut.</translation>
+    </message>
+</context>
+<context>
+    <name>NamingBoard</name>
+    <message>
+        <source>top number</source>
+        <translation>nombre du haut</translation>
+    </message>
+    <message>
+        <source>bottom number</source>
+        <translation>nombre du bas</translation>
+    </message>
+    <message>
+        <source>Write the fraction each picture shows: the top number over the bottom number.</source>
+        <translation>Écris la fraction que montre chaque image : le nombre du haut sur le nombre du bas.</translation>
+    </message>
+</context>
+<context>
     <name>NumberLine</name>
     <message>
         <source>a number line</source>
@@ -1354,6 +1514,13 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
         <source>no pictures yet</source>
         <translation>pas encore d&apos;images</translation>
     </message>
+    <message numerus="yes">
+        <source>%1, %n ringed</source>
+        <translation>
+            <numerusform>%1, %n dans un cercle</numerusform>
+            <numerusform>%1, %n dans un cercle</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Pictures</name>
@@ -1435,6 +1602,21 @@ Partitude cherche ses images dans le dossier&#xa0;:
             <numerusform>un %1 coupé en %2 parts égales, %n coloriée</numerusform>
             <numerusform>un %1 coupé en %2 parts égales, %n coloriées</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>a %1 cut into %2 equal parts, %n shaded</source>
+        <translation>
+            <numerusform>un %1 coupé en %2 parts égales, %n coloriée</numerusform>
+            <numerusform>un %1 coupé en %2 parts égales, %n coloriées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>shaded</source>
+        <translation>coloriée</translation>
+    </message>
+    <message>
+        <source>not shaded</source>
+        <translation>pas coloriée</translation>
     </message>
 </context>
 <context>

@@ -12,7 +12,12 @@
 #include "activities/halvesnumbers/y2fractions3.h"
 #include "activities/halvesshapes/shapesboard.h"
 #include "activities/halvesshapes/y2fractions2.h"
+#include "activities/comparing/compareboard.h"
+#include "activities/comparing/y4fract5.h"
 #include "activities/mixed/y5fract4.h"
+#include "activities/naming/namingboard.h"
+#include "activities/naming/y3fract2.h"
+#include "activities/naming/y4fract4.h"
 #include "activities/ordering/y6fract3.h"
 #include "runtime/forms.h"
 
@@ -53,14 +58,14 @@ const QVector<Row>& all()
         {"y2Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Halves and Quarters 3"), "Y2fractions3", kShort, make<Y2fractions3>, nullptr, PicturesBoard::worksheet},
 
         {"y3Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 1"), "y3fract1", kEither},
-        {"y3Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 2"), "y3fract2", kEither},
+        {"y3Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 2"), "y3fract2", kEither, make<y3fract2>, nullptr, NamingBoard::year3Worksheet},
         {"y3Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 3"), "y3fract3", kEither},
 
         {"y4Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 3"), "y4fract3", kEither, make<y4fract3>, nullptr, ChoiceBoard::worksheet},
         {"y4Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 2"), "y4fract2", kEither, make<y4fract2>, nullptr, PairBoard::worksheet},
-        {"y4Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Write A Fraction"), "y4fract4", kEither},
+        {"y4Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Write A Fraction"), "y4fract4", kEither, make<y4fract4>, nullptr, NamingBoard::year4Worksheet},
         {"y4Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 1"), "y4fract1", kEither, make<y4fract1>, nullptr, PairBoard::wallWorksheet},
-        {"y4Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "More Than, Less Than"), "y4fract5", kEither},
+        {"y4Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "More Than, Less Than"), "y4fract5", kEither, make<y4fract5>, nullptr, CompareBoard::worksheet},
 
         {"y5Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Fractions of Numbers"), "y5fract1", kEither},
         {"y5Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions"), "y5fract2", kEither, make<y5fract2>, nullptr, ChainBoard::worksheet},

@@ -26,6 +26,8 @@ constexpr double kCornerShare = 0.3;
 constexpr double kTileCornerShare = 0.12;
 constexpr double kFaintPicture = 0.45;
 constexpr int kFaintAlpha = 150;
+constexpr double kNumberShare = 0.3; // of a tile's side: a picture's number in its corner
+constexpr double kDigitsInDisc = 0.7; // the number's share of the disc it stands on
 constexpr QSize kPreferredSize{420, 260};
 constexpr QSize kSmallestSize{120, 80};
 
@@ -93,7 +95,22 @@ void PictureRows::setPictures(const QString& assetPath, const QString& pluralNam
     m_count = std::clamp(count, 1, kMostPictures);
     m_groups = 0;
     m_shaded = 0;
+    m_ringed = 0;
+    m_numbered = false;
     describe();
+    update();
+}
+
+void PictureRows::setRinged(int ringed)
+{
+    m_ringed = std::clamp(ringed, 0, m_count);
+    describe();
+    update();
+}
+
+void PictureRows::setNumbered(bool on)
+{
+    m_numbered = on;
     update();
 }
 
@@ -205,6 +222,33 @@ void PictureRows::paintEvent(QPaintEvent*)
         target.moveCenter(tile.center());
         painter.drawPixmap(target, m_picture, QRectF(m_picture.rect()));
     }
+    painter.setOpacity(1.0);
+    paintRingsAndNumbers(painter, l);
+}
+
+void PictureRows::paintRingsAndNumbers(QPainter& painter, const Layout& l) const
+{
+    if (m_groups > 0)
+        return;
+    const double ring = l.cell * kRingShare;
+    for (int i = 0; i < l.tiles.size(); ++i) {
+        const QRectF tile = l.tiles[i];
+        if (i < m_ringed) {
+            painter.setPen(QPen(DrawingStyle::deep(0), ring));
+            painter.setBrush(Qt::NoBrush);
+            painter.drawEllipse(tile.adjusted(ring / 2, ring / 2, -ring / 2, -ring / 2));
+        }
+        if (m_numbered) {
+            const QString number = QString::number(i + 1);
+            const QRectF corner(tile.topLeft(), tile.size() * kNumberShare);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(DrawingStyle::kBoard);
+            painter.drawEllipse(corner);
+            painter.setPen(DrawingStyle::kInk);
+            painter.setFont(DrawingStyle::digitFont(DrawingStyle::fittingSize({number}, corner.size() * kDigitsInDisc, l.cell)));
+            painter.drawText(corner, Qt::AlignCenter, number);
+        }
+    }
 }
 
 void PictureRows::describe()
@@ -226,6 +270,8 @@ void PictureRows::describe()
                                   : tr("%1, %n groups marked", nullptr, m_shaded))
                        .arg(text);
     }
+    if (m_groups == 0 && m_ringed > 0)
+        text = tr("%1, %n ringed", nullptr, m_ringed).arg(text);
     setAccessibleName(m_count > 0 ? text : tr("no pictures yet"));
 }
 

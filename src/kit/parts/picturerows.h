@@ -24,6 +24,14 @@ public:
     // share the pictures equally leaves them in rows.
     void showGroups(int groups, int shadedGroups);
     void clearGroups();
+    // In rows: rings the first `ringed` pictures (0: none), each with a
+    // thick ring of its own, the others drawn as they are.
+    void setRinged(int ringed);
+    int ringed() const { return m_ringed; }
+    // In rows: writes each picture's number (1, 2, ...) in its corner, so a
+    // hint can count the pictures in the picture.
+    void setNumbered(bool on);
+    bool isNumbered() const { return m_numbered; }
 
     int count() const { return m_count; }
     int groups() const { return m_groups; } // 0 while in rows
@@ -48,6 +56,7 @@ private:
     };
     Layout layout() const;
     void paintGroup(QPainter& painter, const QRectF& area, int group, double cell) const;
+    void paintRingsAndNumbers(QPainter& painter, const Layout& l) const;
     void describe();
 
     QString m_path;
@@ -56,4 +65,6 @@ private:
     int m_count = 0;
     int m_groups = 0;
     int m_shaded = 0;
+    int m_ringed = 0;
+    bool m_numbered = false;
 };

@@ -1,5 +1,6 @@
 #include "shapeboard.h"
 
+#include "drawingstyle.h"
 #include "partstyle.h"
 #include "shapeboardaccessible.h"
 
@@ -7,7 +8,9 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QtMath>
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -22,6 +25,14 @@ constexpr double kDashSpace = 0.7;
 // On a narrow part the cursor's band keeps to a share of the part's width,
 // so the part's colour still shows through.
 constexpr double kCursorPartShare = 0.15;
+// A part's number fills at most this share of the part's bounding box.
+constexpr double kNumberShare = 0.5;
+constexpr double kLargestNumber = 48.0; // pixels
+// In a circle's sector the number stands this share of the radius out from
+// the centre, in a square this share of the sector's width there.
+constexpr double kSectorNumberReach = 0.62;
+constexpr double kSectorNumberWidth = 1.1;
+constexpr double kFullTurn = 360.0;
 
 } // namespace
 
@@ -72,6 +83,18 @@ bool ShapeBoard::isColoured(int index) const
     return index >= 0 && index < partCount() && m_coloured.at(index);
 }
 
+void ShapeBoard::setShadedWords(bool on)
+{
+    m_shadedWords = on;
+    setAccessibleName(description());
+}
+
+void ShapeBoard::setNumbered(bool on)
+{
+    m_numbered = on;
+    update();
+}
+
 void ShapeBoard::setInteractive(bool on)
 {
     m_interactive = on;
@@ -108,6 +131,10 @@ int ShapeBoard::partAt(const QPointF& point) const
 QString ShapeBoard::description() const
 {
     // The count also chooses a translation's plural form ("1 coloriée").
+    if (m_shadedWords)
+        return tr("a %1 cut into %2 equal parts, %n shaded", nullptr, colouredCount())
+            .arg(shapeNoun(m_kind))
+            .arg(partCount());
     return tr("a %1 cut into %2 equal parts, %n coloured", nullptr, colouredCount())
         .arg(shapeNoun(m_kind))
         .arg(partCount());
@@ -118,7 +145,8 @@ QString ShapeBoard::partName(int index) const
     return tr("part %1 of %2, %3")
         .arg(index + 1)
         .arg(partCount())
-        .arg(isColoured(index) ? tr("coloured") : tr("not coloured"));
+        .arg(m_shadedWords ? (isColoured(index) ? tr("shaded") : tr("not shaded"))
+                           : (isColoured(index) ? tr("coloured") : tr("not coloured")));
 }
 
 QSize ShapeBoard::sizeHint() const
@@ -198,8 +226,35 @@ void ShapeBoard::paintEvent(QPaintEvent*)
     outline.setJoinStyle(Qt::MiterJoin);
     painter.strokePath(shapeOutline(m_kind, partCount(), shapeBox()), outline);
 
+    if (m_numbered)
+        drawNumbers(painter);
     if (m_interactive && hasFocus())
         drawCursor(painter);
+}
+
+void ShapeBoard::drawNumbers(QPainter& painter) const
+{
+    painter.setPen(PartStyle::kOutline);
+    const QRectF whole = shapeOutline(m_kind, partCount(), shapeBox()).boundingRect();
+    const double radius = whole.width() / 2;
+    for (int i = 0; i < m_paths.size(); ++i) {
+        const QRectF bounds = m_paths.at(i).boundingRect();
+        QRectF box(0, 0, bounds.width() * kNumberShare, bounds.height() * kNumberShare);
+        QPointF middle = bounds.center();
+        if (m_kind == ShapeKind::Circle) {
+            // Out along the line through the sector's middle, in a square that
+            // narrows as the sectors do.
+            const double sweep = qDegreesToRadians(kFullTurn / partCount());
+            const double angle = (i + 0.5) * sweep; // clockwise from twelve o'clock
+            middle = whole.center() + QPointF(std::sin(angle), -std::cos(angle)) * radius * kSectorNumberReach;
+            const double side = radius * std::min(kNumberShare, kSectorNumberWidth * std::sin(sweep / 2));
+            box = QRectF(0, 0, side, side);
+        }
+        box.moveCenter(middle);
+        const QString number = QString::number(i + 1);
+        painter.setFont(DrawingStyle::digitFont(DrawingStyle::fittingSize({number}, box.size(), kLargestNumber)));
+        painter.drawText(box, Qt::AlignCenter, number);
+    }
 }
 
 void ShapeBoard::drawCursor(QPainter& painter) const

@@ -28,6 +28,14 @@ public:
     int colouredCount() const;
     bool isColoured(int index) const;
 
+    // Whether the words say "shaded" instead of "coloured", for a shape the
+    // child only reads a fraction from.
+    void setShadedWords(bool on);
+    // Writes each part's number (1, 2, ...) in it, so a hint can count the
+    // parts aloud in the picture.
+    void setNumbered(bool on);
+    bool isNumbered() const { return m_numbered; }
+
     // Whether clicks and keys colour parts.
     void setInteractive(bool on);
     bool isInteractive() const { return m_interactive; }
@@ -69,10 +77,13 @@ private:
     void announcePart(int index);
     void announceCursor();
     void drawCursor(QPainter& painter) const;
+    void drawNumbers(QPainter& painter) const;
 
     ShapeKind m_kind = ShapeKind::Circle;
     QVector<QPainterPath> m_paths;
     QVector<bool> m_coloured;
     int m_cursor = 0;
     bool m_interactive = true;
+    bool m_shadedWords = false;
+    bool m_numbered = false;
 };

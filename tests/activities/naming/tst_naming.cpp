@@ -1,0 +1,130 @@
+// The two screens that name the fraction shown, Halves, Quarters, Thirds
+// and Tenths 2 and Write A Fraction, played with the keyboard alone from
+// their menus, and their printed worksheets.
+#include "activities/naming/namingboard.h"
+#include "fractions/halvesquestion.h"
+#include "kit/kitscreen.h"
+#include "kit/parts/hundredsquare.h"
+#include "kit/parts/picturerows.h"
+#include "kit/parts/shapeboard.h"
+#include "sheetcheck.h"
+#include "testsupport.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QtTest>
+
+using namespace Module1;
+
+class TestNaming : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { world.fresh(23); }
+    void oneQuestionByKeyboard_data() { screens(); }
+    void oneQuestionByKeyboard();
+    void worksheet_data() { screens(); }
+    void worksheet();
+
+private:
+    static void screens()
+    {
+        QTest::addColumn<QString>("menu");
+        QTest::addColumn<QString>("screen");
+        QTest::newRow("Year 3") << "y3Intro" << "y3fract2";
+        QTest::newRow("Write A Fraction") << "y4Intro" << "y4fract4";
+    }
+    KitScreen* open(const QString& menu, const QString& screen)
+    {
+        Forms::show(menu)->findChild<QPushButton*>(QStringLiteral("Command3"))->click();
+        TestSupport::flushUnloads();
+        return qobject_cast<KitScreen*>(Forms::find(screen));
+    }
+
+    TestSupport::World world;
+};
+
+static void type(const QString& keys)
+{
+    QTest::keyClicks(QApplication::focusWidget(), keys);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+}
+
+// The picture on show, and what a screen reader should hear of it.
+static QWidget* shownPicture(NamingBoard* board, QString* spoken)
+{
+    const NameFraction::Question& q = board->question();
+    switch (q.picture) {
+    case NameFraction::Picture::Shape:
+        *spoken = QStringLiteral("a %1 cut into %2 equal parts, %3 shaded").arg(shapeNoun(q.kind)).arg(q.parts).arg(q.shaded);
+        return board->Shape1;
+    case NameFraction::Picture::HundredSquare:
+        *spoken = QStringLiteral("a hundred square with %1 small squares shaded").arg(q.shaded);
+        return board->Square1;
+    case NameFraction::Picture::Pictures:
+        *spoken = QStringLiteral("%1 %2, %3 ringed").arg(q.parts).arg(Halves::setName(q.set)).arg(q.shaded);
+        return board->Picture2;
+    }
+    return nullptr;
+}
+
+// Start; an empty Enter and a 0 are refused; the hint numbers the parts;
+// top number, Enter, bottom number, Enter checks; then a wrong answer.
+void TestNaming::oneQuestionByKeyboard()
+{
+    QFETCH(QString, menu);
+    QFETCH(QString, screen);
+    KitScreen* form = open(menu, screen);
+    QVERIFY(form);
+    QApplication::setActiveWindow(form);
+    QTest::keyClick(form->cmdstart, Qt::Key_Space);
+    auto* board = static_cast<NamingBoard*>(form->board());
+    QCOMPARE(QApplication::focusWidget(), board->Text1);
+    const NameFraction::Question q = board->question();
+    QCOMPARE(form->Label1->text(), q.instruction());
+    QString spoken;
+    QWidget* picture = shownPicture(board, &spoken);
+    QVERIFY(picture->isVisible());
+    QCOMPARE(picture->accessibleName(), spoken);
+
+    type(QString());
+    QCOMPARE(form->Label2->text(), QStringLiteral("Type the top number and the bottom number first!"));
+    type(QStringLiteral("0"));
+    QVERIFY(form->Label2->text().startsWith(QStringLiteral("The top number cannot be 0")));
+    form->cmdhint->click();
+    QCOMPARE(form->Label2->text(), NameFraction::hint(q));
+    QCOMPARE(board->Shape1->isNumbered() || board->Picture2->isNumbered() || board->Square1->isVisible(), true);
+
+    type(QString::number(q.shaded));
+    QCOMPARE(QApplication::focusWidget(), board->Text2);
+    type(QString::number(q.parts));
+    QCOMPARE(counter, 1);
+    QCOMPARE(form->Label2->text(), praisetext + NameFraction::check(q, QString::number(q.shaded), QString::number(q.parts)).statement);
+
+    form->setEnabled(true); // as when the stars have played
+    form->Timer3_Timer();
+    QVERIFY(board->Text1->text().isEmpty() && !board->Shape1->isNumbered());
+    QCOMPARE(QApplication::focusWidget(), board->Text1);
+    const NameFraction::Question next = board->question();
+    type(QString::number(next.parts));
+    type(QString::number(next.shaded)); // upside down
+    QCOMPARE(counter, 1);
+    QVERIFY(form->Label2->text().startsWith(QStringLiteral("Not quite. %1 of ").arg(NameFraction::counted(next))));
+}
+
+// Print asks first, then gives 12 fresh questions and their answers.
+void TestNaming::worksheet()
+{
+    QFETCH(QString, menu);
+    QFETCH(QString, screen);
+    if (!PdfSupport::missingTool().isEmpty())
+        QSKIP("poppler-utils is not installed");
+    KitScreen* form = open(menu, screen);
+    world.answer = MsgBox::Answer::Yes;
+    const auto sheet = screen == QLatin1String("y3fract2") ? NamingBoard::year3Worksheet : NamingBoard::year4Worksheet;
+    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, sheet), QString());
+    QCOMPARE(world.messages.size(), 1);
+}
+
+QTEST_MAIN(TestNaming)
+#include "tst_naming.moc"
