@@ -8,6 +8,7 @@
 #include "activities/mixed/mixedmodes.h"
 #include "activities/mixed/y5fract4.h"
 #include "activities/ordering/y6fract3.h"
+#include "activities/review/y5fract5.h"
 #include "runtime/forms.h"
 
 #include <QCoreApplication>
@@ -60,7 +61,7 @@ const QVector<Row>& all()
         {"y5Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions"), "y5fract2", kEither},
         {"y5Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Cancelling"), "y5fract3", kEither},
         {"y5Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Mixed Numbers and Improper Fractions"), "y5Intro2", kEither, nullptr, nullptr, nullptr, true},
-        {"y5Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Partitude"), "y5fract5", kEither},
+        {"y5Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Partitude"), "y5fract5", kEither, make<y5fract5>, nullptr, y5fract5::worksheet},
 
         {"y5Intro2", "Command1", kBothWays, "y5fract4", kShort, make<y5fract4>, "y5fracprint4"},
         {"y5Intro2", "Command2", QT_TRANSLATE_NOOP("Activities", "Mixed Numbers To Improper Fractions"), "y5fract6", kEither, MixedModes::make<MixedModes::kToImproper>, nullptr, MixedModes::sheet<MixedModes::kToImproper>},
