@@ -907,6 +907,45 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
 </context>
 <context>
+    <name>MixedBoard</name>
+    <message>
+        <source>whole number</source>
+        <translation>nombre entier</translation>
+    </message>
+    <message>
+        <source>top number</source>
+        <translation>nombre du haut</translation>
+    </message>
+    <message>
+        <source>bottom number</source>
+        <translation>nombre du bas</translation>
+    </message>
+    <message>
+        <source>0 is never the answer here.</source>
+        <translation>0 n&apos;est jamais la réponse ici.</translation>
+    </message>
+    <message>
+        <source>%1 equals</source>
+        <translation>%1 est égal à</translation>
+    </message>
+    <message>
+        <source>%1 times %2 is %3</source>
+        <translation>%1 fois %2 font %3</translation>
+    </message>
+    <message>
+        <source>Change each improper fraction to a mixed number.</source>
+        <translation>Écris chaque fraction plus grande que 1 sous forme de nombre mixte.</translation>
+    </message>
+    <message>
+        <source>Change each mixed number to an improper fraction.</source>
+        <translation>Écris chaque nombre mixte sous forme de fraction.</translation>
+    </message>
+    <message>
+        <source>Change each improper fraction to a mixed number, and each mixed number to an improper fraction.</source>
+        <translation>Écris chaque fraction plus grande que 1 sous forme de nombre mixte, et chaque nombre mixte sous forme de fraction.</translation>
+    </message>
+</context>
+<context>
     <name>MixedQuestion</name>
     <message>
         <source>%1 and %2/%3</source>
@@ -945,6 +984,18 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
             <numerusform>Chaque unité vaut %1 %2. Tu as %n unité et %3 %4.</numerusform>
             <numerusform>Chaque unité vaut %1 %2. Tu as %n unités et %3 %4.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Change %1 to a mixed number.</source>
+        <translation>Écris %1 sous forme de nombre mixte.</translation>
+    </message>
+    <message>
+        <source>Change %1 to an improper fraction.</source>
+        <translation>Écris %1 sous forme de fraction.</translation>
+    </message>
+    <message>
+        <source>Type a number in every box first!</source>
+        <translation>Écris d&apos;abord un nombre dans chaque case !</translation>
     </message>
 </context>
 <context>
@@ -1665,6 +1716,13 @@ Partitude cherche ses images dans le dossier&#xa0;:
     <message>
         <source>%1 times %2 is %3</source>
         <translation>%1 fois %2 font %3</translation>
+    </message>
+</context>
+<context>
+    <name>y5fract5</name>
+    <message>
+        <source>Answer each question.</source>
+        <translation>Réponds à chaque question.</translation>
     </message>
 </context>
 </TS>
