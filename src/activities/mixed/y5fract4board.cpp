@@ -177,7 +177,13 @@ void y5fract4::buildBoard()
     Label5 = label(Frame2, "Label5", QString(), words, kWhite);
     Twips::place(Label5, 120, 0, kHintWidth, kBandHeight);
     Label5->hide();
-    Label18 = label(Frame2, "Label18", tr("Type in your mixed number and use the ENTER key to move on"), words, kWhite);
+    // The band's first words say what is typed; a mode asking only for
+    // improper fractions says so.
+    const bool fractionsOnly = m_mode.range.direction == MixedQuestion::kToImproper;
+    Label18 = label(Frame2, "Label18",
+                    fractionsOnly ? tr("Type in the correct fraction and use the ENTER key to move on")
+                                  : tr("Type in your mixed number and use the ENTER key to move on"),
+                    words, kWhite);
     Twips::place(Label18, 120, 0, kHintWidth, kBandHeight);
     Label20 = label(Frame2, "Label20", QString(), Twips::font(kSerif, 16, true), kFeedbackInk, Qt::AlignCenter);
     Twips::place(Label20, kProductLeft, 0, kProductWidth, kBandHeight);
