@@ -188,11 +188,17 @@ QString MixedQuestion::instruction(bool inWords) const
 
 Verdict MixedQuestion::check(const QList<int>& typed) const
 {
-    const QList<int> right = direction == kToMixed ? QList<int>{whole, numer, denom}
-                                                   : QList<int>{improperNumerator(), denom};
+    const QList<int> right = answerNumbers();
     if (typed.size() != right.size() || typed.contains(0))
         return Verdict::notCheckable(
             QCoreApplication::translate("MixedQuestion", "Type a number in every box first!"));
     const QString sentence = answerText() + QLatin1Char('.');
     return typed == right ? Verdict::right(sentence) : Verdict::wrong(sentence);
+}
+
+QList<int> MixedQuestion::answerNumbers() const
+{
+    if (direction == kToMixed)
+        return {whole, numer, denom};
+    return {improperNumerator(), denom};
 }

@@ -91,6 +91,8 @@ public:
     // fraction), 0 for an empty box: right or wrong with the answer sentence,
     // or not checkable while a box is empty.
     Verdict check(const QList<int>& typed) const;
+    // The numbers of the right answer, box by box in that order.
+    QList<int> answerNumbers() const;
 };
 
 // The names of the parts: fractionnames(d) is the plural for denominator d

@@ -182,9 +182,7 @@ void MixedBoard::focusAnswer()
 
 void MixedBoard::giveRightAnswer()
 {
-    const QList<int> right = m_question.direction == MixedQuestion::kToMixed
-        ? QList<int>{m_question.whole, m_question.numer, m_question.denom}
-        : QList<int>{m_question.improperNumerator(), m_question.denom};
+    const QList<int> right = m_question.answerNumbers();
     const QList<QLineEdit*>& boxes = chain()->boxes();
     for (int i = 0; i < boxes.size(); ++i)
         boxes[i]->setText(QString::number(right[i]));

@@ -118,13 +118,10 @@ private slots:
         QTest::keyClick(form->cmdstart, Qt::Key_Space);
         const MixedQuestion q = form->question();
         QVERIFY(direction == kEither || q.direction == direction);
-        const QList<int> numbers = q.direction == kToMixed ? QList<int>{q.whole, q.numer, q.denom}
-                                                           : QList<int>{q.improperNumerator(), q.denom};
-        for (int n : numbers) {
-            QWidget* box = QApplication::focusWidget();
-            QVERIFY(qobject_cast<QLineEdit*>(box));
-            QTest::keyClicks(box, QString::number(n));
-            QTest::keyClick(box, Qt::Key_Return);
+        for (int n : q.answerNumbers()) {
+            QVERIFY(qobject_cast<QLineEdit*>(QApplication::focusWidget()));
+            QTest::keyClicks(QApplication::focusWidget(), QString::number(n));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         }
         QCOMPARE(counter, 1);
         QCOMPARE(form->Label2->text(), praisetext + QStringLiteral(" ") + q.answerText());

@@ -43,6 +43,15 @@ const QVector<ReviewBoard::Member> kProbes{
     {"Second", ReviewBoard::make<Probe>, nullptr},
 };
 
+// Each number into the box with the keyboard, then ENTER.
+void typeInTurn(const QList<int>& numbers)
+{
+    for (int n : numbers) {
+        QTest::keyClicks(QApplication::focusWidget(), QString::number(n));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+}
+
 y5fract5* startedFromMenu()
 {
     Forms::show(QStringLiteral("y5Intro"))->findChild<QPushButton*>(QStringLiteral("Command6"))->click();
@@ -141,23 +150,14 @@ private slots:
         QCOMPARE(form->Label2->text(), q.hintText());
         QCOMPARE(board->Label20->isVisible(), !toMixed);
 
-        const QList<int> right = toMixed ? QList<int>{q.whole, q.numer, q.denom} : QList<int>{q.improperNumerator(), q.denom};
-        for (int i = 0; i < right.size(); ++i) {
-            QTest::keyClicks(QApplication::focusWidget(), QString::number(right[i] + (i == 0 ? 1 : 0)));
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        }
+        QList<int> wrong = q.answerNumbers();
+        ++wrong[0];
+        typeInTurn(wrong);
         QCOMPARE(form->Label2->text(), QStringLiteral("Not quite. %1.").arg(q.answerText()));
         QCOMPARE(counter, 0);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // on at once
-        board = qobject_cast<MixedBoard*>(form->review()->shown());
-        const MixedQuestion next = board->question();
-        const QList<int> answer = next.direction == MixedQuestion::kToMixed
-            ? QList<int>{next.whole, next.numer, next.denom}
-            : QList<int>{next.improperNumerator(), next.denom};
-        for (int n : answer) {
-            QTest::keyClicks(QApplication::focusWidget(), QString::number(n));
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        }
+        const MixedQuestion next = qobject_cast<MixedBoard*>(form->review()->shown())->question();
+        typeInTurn(next.answerNumbers());
         QCOMPARE(counter, 1);
         QCOMPARE(form->Label2->text(), praisetext + next.answerText() + QLatin1Char('.'));
     }
