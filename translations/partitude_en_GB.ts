@@ -1183,6 +1183,45 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
     </message>
 </context>
 <context>
+    <name>MixedBoard</name>
+    <message>
+        <source>whole number</source>
+        <translation>whole number</translation>
+    </message>
+    <message>
+        <source>top number</source>
+        <translation>top number</translation>
+    </message>
+    <message>
+        <source>bottom number</source>
+        <translation>bottom number</translation>
+    </message>
+    <message>
+        <source>0 is never the answer here.</source>
+        <translation>0 is never the answer here.</translation>
+    </message>
+    <message>
+        <source>%1 equals</source>
+        <translation>%1 equals</translation>
+    </message>
+    <message>
+        <source>%1 times %2 is %3</source>
+        <translation>%1 times %2 is %3</translation>
+    </message>
+    <message>
+        <source>Change each improper fraction to a mixed number.</source>
+        <translation>Change each improper fraction to a mixed number.</translation>
+    </message>
+    <message>
+        <source>Change each mixed number to an improper fraction.</source>
+        <translation>Change each mixed number to an improper fraction.</translation>
+    </message>
+    <message>
+        <source>Change each improper fraction to a mixed number, and each mixed number to an improper fraction.</source>
+        <translation>Change each improper fraction to a mixed number, and each mixed number to an improper fraction.</translation>
+    </message>
+</context>
+<context>
     <name>MixedQuestion</name>
     <message>
         <source>%1 and %2/%3</source>
@@ -1221,6 +1260,18 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
             <numerusform>Each whole number is %1 %2. You have %n whole number and %3 %4.</numerusform>
             <numerusform>Each whole number is %1 %2. You have %n whole numbers and %3 %4.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Change %1 to a mixed number.</source>
+        <translation>Change %1 to a mixed number.</translation>
+    </message>
+    <message>
+        <source>Change %1 to an improper fraction.</source>
+        <translation>Change %1 to an improper fraction.</translation>
+    </message>
+    <message>
+        <source>Type a number in every box first!</source>
+        <translation>Type a number in every box first!</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2115,13 @@ Partitude looks for its pictures in the folder:
     <message>
         <source>%1 times %2 is %3</source>
         <translation>%1 times %2 is %3</translation>
+    </message>
+</context>
+<context>
+    <name>y5fract5</name>
+    <message>
+        <source>Answer each question.</source>
+        <translation>Answer each question.</translation>
     </message>
 </context>
 </TS>

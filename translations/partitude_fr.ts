@@ -341,27 +341,27 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <name>CompareFractions</name>
     <message>
         <source>%1 is equal to %2: multiply the top and the bottom of %3 by %4 to make %5.</source>
-        <translation>%1 est égal à %2 : multiplie le nombre du haut et le nombre du bas de %3 par %4 pour obtenir %5.</translation>
+        <translation>%1 est égal à %2&#xa0;: multiplie le nombre du haut et le nombre du bas de %3 par %4 pour obtenir %5.</translation>
     </message>
     <message>
         <source>%1 is less than %2: both are counted in %3, and %4 is less than %5.</source>
-        <translation>%1 est plus petit que %2 : les deux se comptent en %3, et %4 est plus petit que %5.</translation>
+        <translation>%1 est plus petit que %2&#xa0;: les deux se comptent en %3, et %4 est plus petit que %5.</translation>
     </message>
     <message>
         <source>%1 is less than %2: %3 are smaller pieces than %4.</source>
-        <translation>%1 est plus petit que %2 : les %3 sont des parts plus petites que les %4.</translation>
+        <translation>%1 est plus petit que %2&#xa0;: les %3 sont des parts plus petites que les %4.</translation>
     </message>
     <message>
         <source>%1 is more than %2: both are counted in %3, and %4 is more than %5.</source>
-        <translation>%1 est plus grand que %2 : les deux se comptent en %3, et %4 est plus grand que %5.</translation>
+        <translation>%1 est plus grand que %2&#xa0;: les deux se comptent en %3, et %4 est plus grand que %5.</translation>
     </message>
     <message>
         <source>%1 is more than %2: %3 are bigger pieces than %4.</source>
-        <translation>%1 est plus grand que %2 : les %3 sont des parts plus grandes que les %4.</translation>
+        <translation>%1 est plus grand que %2&#xa0;: les %3 sont des parts plus grandes que les %4.</translation>
     </message>
     <message>
         <source>Is %1 less than, equal to or more than %2?</source>
-        <translation>%1 est-il plus petit que, égal à ou plus grand que %2 ?</translation>
+        <translation>%1 est-il plus petit que, égal à ou plus grand que %2&#xa0;?</translation>
     </message>
     <message>
         <source>%1 is less than %2.</source>
@@ -389,11 +389,11 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     </message>
     <message>
         <source>Choose one of the three cards first!</source>
-        <translation>Choisis d&apos;abord une des trois cartes !</translation>
+        <translation>Choisis d&apos;abord une des trois cartes&#xa0;!</translation>
     </message>
     <message>
         <source>Both bars are the same length. Which has more shaded: %1 or %2?</source>
-        <translation>Les deux barres ont la même longueur. Laquelle est la plus coloriée : %1 ou %2 ?</translation>
+        <translation>Les deux barres ont la même longueur. Laquelle est la plus coloriée&#xa0;: %1 ou %2&#xa0;?</translation>
     </message>
     <message>
         <source>%1 and %2</source>
@@ -1183,6 +1183,45 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
 </context>
 <context>
+    <name>MixedBoard</name>
+    <message>
+        <source>whole number</source>
+        <translation>nombre entier</translation>
+    </message>
+    <message>
+        <source>top number</source>
+        <translation>nombre du haut</translation>
+    </message>
+    <message>
+        <source>bottom number</source>
+        <translation>nombre du bas</translation>
+    </message>
+    <message>
+        <source>0 is never the answer here.</source>
+        <translation>0 n&apos;est jamais la réponse ici.</translation>
+    </message>
+    <message>
+        <source>%1 equals</source>
+        <translation>%1 est égal à</translation>
+    </message>
+    <message>
+        <source>%1 times %2 is %3</source>
+        <translation>%1 fois %2 font %3</translation>
+    </message>
+    <message>
+        <source>Change each improper fraction to a mixed number.</source>
+        <translation>Écris chaque fraction plus grande que 1 sous forme de nombre mixte.</translation>
+    </message>
+    <message>
+        <source>Change each mixed number to an improper fraction.</source>
+        <translation>Écris chaque nombre mixte sous forme de fraction.</translation>
+    </message>
+    <message>
+        <source>Change each improper fraction to a mixed number, and each mixed number to an improper fraction.</source>
+        <translation>Écris chaque fraction plus grande que 1 sous forme de nombre mixte, et chaque nombre mixte sous forme de fraction.</translation>
+    </message>
+</context>
+<context>
     <name>MixedQuestion</name>
     <message>
         <source>%1 and %2/%3</source>
@@ -1221,6 +1260,18 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
             <numerusform>Chaque unité vaut %1 %2. Tu as %n unité et %3 %4.</numerusform>
             <numerusform>Chaque unité vaut %1 %2. Tu as %n unités et %3 %4.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Change %1 to a mixed number.</source>
+        <translation>Écris %1 sous forme de nombre mixte.</translation>
+    </message>
+    <message>
+        <source>Change %1 to an improper fraction.</source>
+        <translation>Écris %1 sous forme de fraction.</translation>
+    </message>
+    <message>
+        <source>Type a number in every box first!</source>
+        <translation>Écris d&apos;abord un nombre dans chaque case&#xa0;!</translation>
     </message>
 </context>
 <context>
@@ -1298,27 +1349,27 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     <name>NameFraction</name>
     <message>
         <source>What fraction of the %1 are ringed?</source>
-        <translation>Quelle fraction des %1 est dans un cercle ?</translation>
+        <translation>Quelle fraction des %1 est dans un cercle&#xa0;?</translation>
     </message>
     <message>
         <source>What fraction of the %1 is shaded?</source>
-        <translation>Quelle fraction du %1 est coloriée ?</translation>
+        <translation>Quelle fraction du %1 est coloriée&#xa0;?</translation>
     </message>
     <message>
         <source>Type the top number and the bottom number first!</source>
-        <translation>Écris d&apos;abord le nombre du haut et le nombre du bas !</translation>
+        <translation>Écris d&apos;abord le nombre du haut et le nombre du bas&#xa0;!</translation>
     </message>
     <message>
         <source>The bottom number cannot be 0: count all the parts.</source>
-        <translation>Le nombre du bas ne peut pas être 0 : compte toutes les parts.</translation>
+        <translation>Le nombre du bas ne peut pas être 0&#xa0;: compte toutes les parts.</translation>
     </message>
     <message>
         <source>The top number cannot be 0: count the ringed pictures.</source>
-        <translation>Le nombre du haut ne peut pas être 0 : compte les images dans un cercle.</translation>
+        <translation>Le nombre du haut ne peut pas être 0&#xa0;: compte les images dans un cercle.</translation>
     </message>
     <message>
         <source>The top number cannot be 0: count the shaded parts.</source>
-        <translation>Le nombre du haut ne peut pas être 0 : compte les parts coloriées.</translation>
+        <translation>Le nombre du haut ne peut pas être 0&#xa0;: compte les parts coloriées.</translation>
     </message>
     <message>
         <source>%1 of the %2 are ringed.</source>
@@ -1330,39 +1381,39 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>%1 of the %2 are ringed: that is %3.</source>
-        <translation>%1 des %2 sont dans un cercle : c&apos;est %3.</translation>
+        <translation>%1 des %2 sont dans un cercle&#xa0;: c&apos;est %3.</translation>
     </message>
     <message>
         <source>%1 of the %2 is shaded: that is %3.</source>
-        <translation>%1 du %2 est colorié : c&apos;est %3.</translation>
+        <translation>%1 du %2 est colorié&#xa0;: c&apos;est %3.</translation>
     </message>
     <message>
         <source>%1 of the %2 are ringed: %3 of the %4 %2.</source>
-        <translation>%1 des %2 sont dans un cercle : %3 des %4 %2.</translation>
+        <translation>%1 des %2 sont dans un cercle&#xa0;: %3 des %4 %2.</translation>
     </message>
     <message>
         <source>%1 of the %2 is shaded: %3 of its %4 small squares.</source>
-        <translation>%1 du %2 est colorié : %3 de ses %4 petits carrés.</translation>
+        <translation>%1 du %2 est colorié&#xa0;: %3 de ses %4 petits carrés.</translation>
     </message>
     <message>
         <source>%1 of the %2 is shaded: %3 of its %4 parts.</source>
-        <translation>%1 du %2 est colorié : %3 de ses %4 parts.</translation>
+        <translation>%1 du %2 est colorié&#xa0;: %3 de ses %4 parts.</translation>
     </message>
     <message>
         <source>Each small square is 1/100; each column is 1/10.</source>
-        <translation>Chaque petit carré vaut 1/100 ; chaque colonne vaut 1/10.</translation>
+        <translation>Chaque petit carré vaut 1/100&#xa0;; chaque colonne vaut 1/10.</translation>
     </message>
     <message>
         <source>Count the shaded squares: %1.</source>
-        <translation>Compte les carrés coloriés : %1.</translation>
+        <translation>Compte les carrés coloriés&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Count all the %1: %2. That is the bottom number. Count the ringed %1: %3. That is the top number.</source>
-        <translation>Compte tous les %1 : %2. C&apos;est le nombre du bas. Compte les %1 dans un cercle : %3. C&apos;est le nombre du haut.</translation>
+        <translation>Compte tous les %1&#xa0;: %2. C&apos;est le nombre du bas. Compte les %1 dans un cercle&#xa0;: %3. C&apos;est le nombre du haut.</translation>
     </message>
     <message>
         <source>Count all the equal parts: %1. That is the bottom number. Count the shaded parts: %2. That is the top number.</source>
-        <translation>Compte toutes les parts égales : %1. C&apos;est le nombre du bas. Compte les parts coloriées : %2. C&apos;est le nombre du haut.</translation>
+        <translation>Compte toutes les parts égales&#xa0;: %1. C&apos;est le nombre du bas. Compte les parts coloriées&#xa0;: %2. C&apos;est le nombre du haut.</translation>
     </message>
 </context>
 <context>
@@ -1377,7 +1428,7 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>Write the fraction each picture shows: the top number over the bottom number.</source>
-        <translation>Écris la fraction que montre chaque image : le nombre du haut sur le nombre du bas.</translation>
+        <translation>Écris la fraction que montre chaque image&#xa0;: le nombre du haut sur le nombre du bas.</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2115,13 @@ Partitude cherche ses images dans le dossier&#xa0;:
     <message>
         <source>%1 times %2 is %3</source>
         <translation>%1 fois %2 font %3</translation>
+    </message>
+</context>
+<context>
+    <name>y5fract5</name>
+    <message>
+        <source>Answer each question.</source>
+        <translation>Réponds à chaque question.</translation>
     </message>
 </context>
 </TS>

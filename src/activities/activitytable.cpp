@@ -14,11 +14,13 @@
 #include "activities/halvesshapes/y2fractions2.h"
 #include "activities/comparing/compareboard.h"
 #include "activities/comparing/y4fract5.h"
+#include "activities/mixed/mixedmodes.h"
 #include "activities/mixed/y5fract4.h"
 #include "activities/naming/namingboard.h"
 #include "activities/naming/y3fract2.h"
 #include "activities/naming/y4fract4.h"
 #include "activities/ordering/y6fract3.h"
+#include "activities/review/y5fract5.h"
 #include "runtime/forms.h"
 
 #include <QCoreApplication>
@@ -71,13 +73,13 @@ const QVector<Row>& all()
         {"y5Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions"), "y5fract2", kEither, make<y5fract2>, nullptr, ChainBoard::worksheet},
         {"y5Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Cancelling"), "y5fract3", kEither, make<y5fract3>, nullptr, CancelBoard::worksheet},
         {"y5Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Mixed Numbers and Improper Fractions"), "y5Intro2", kEither, nullptr, nullptr, nullptr, true},
-        {"y5Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Partitude"), "y5fract5", kEither},
+        {"y5Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Partitude"), "y5fract5", kEither, make<y5fract5>, nullptr, y5fract5::worksheet},
 
         {"y5Intro2", "Command1", kBothWays, "y5fract4", kShort, make<y5fract4>, "y5fracprint4"},
-        {"y5Intro2", "Command2", QT_TRANSLATE_NOOP("Activities", "Mixed Numbers To Improper Fractions"), "y5fract6", kEither},
-        {"y5Intro2", "Command5", QT_TRANSLATE_NOOP("Activities", "Improper Fractions To Mixed Numbers"), "y5fract7", kEither},
+        {"y5Intro2", "Command2", QT_TRANSLATE_NOOP("Activities", "Mixed Numbers To Improper Fractions"), "y5fract6", kEither, MixedModes::make<MixedModes::kToImproper>, nullptr, MixedModes::sheet<MixedModes::kToImproper>},
+        {"y5Intro2", "Command5", QT_TRANSLATE_NOOP("Activities", "Improper Fractions To Mixed Numbers"), "y5fract7", kEither, MixedModes::make<MixedModes::kToMixed>, nullptr, MixedModes::sheet<MixedModes::kToMixed>},
 
-        {"y6Intro", "Command2", kBothWays, "y6fract1", kEither},
+        {"y6Intro", "Command2", kBothWays, "y6fract1", kEither, MixedModes::make<MixedModes::kYearSix>, nullptr, MixedModes::sheet<MixedModes::kYearSix>},
         {"y6Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Decimals Between"), "y6fract2", kEither},
         {"y6Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Place In Order"), "Y6fract3", kEither, make<Y6fract3>, "y6fracprint3"},
         {"y6Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "How Many?"), "y6fract4", kEither},

@@ -4,15 +4,13 @@
 #include "fraction.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <iterator>
 
 namespace {
-constexpr int kLargestWholeToMixed = 5;
-constexpr int kLargestWholeToImproper = 9;
-constexpr int kLargestNumer = 9;
 constexpr int kSmallestDenom = 2;
-constexpr int kDenomChoices = 9; // 2..10
 constexpr int kSingularOffset = 9;
+constexpr int kLargestNamedDenom = 10; // fractionnames() names 2..10
 
 // Indices 2..10 hold the plurals, 11..19 the singulars.
 constexpr const char* kFractionNames[] = {
@@ -44,9 +42,18 @@ qint16 drawUpTo(Random::Source& rnd, int largest)
     return static_cast<qint16>(largest * rnd.rnd() + 1);
 }
 
-qint16 drawDenom(Random::Source& rnd)
+qint16 drawDenom(Random::Source& rnd, int largest)
 {
-    return static_cast<qint16>(kDenomChoices * rnd.rnd() + kSmallestDenom);
+    return static_cast<qint16>((largest - kSmallestDenom + 1) * rnd.rnd() + kSmallestDenom);
+}
+
+// The name of denominator d, plural or singular: the names of the table up
+// to tenths, the fraction words' own beyond.
+QString partNames(int d, bool plural)
+{
+    if (d > kLargestNamedDenom)
+        return plural ? Fractions::partsName(d) : Fractions::partName(d);
+    return fractionnames(plural ? d : d + kSingularOffset);
 }
 
 QString num(int n)
@@ -91,8 +98,8 @@ bool MixedQuestion::isAnswer(const Entries& typed) const
 
 QString MixedQuestion::hintText() const
 {
-    const QString plural = fractionnames(denom);
-    const QString parts = numer == 1 ? fractionnames(denom + kSingularOffset) : plural;
+    const QString plural = partNames(denom, true);
+    const QString parts = partNames(denom, numer != 1);
     // The English singular and plural are separate texts; the count of
     // wholes also chooses a translation's own plural form.
     const char* const sentence = direction == kToMixed
@@ -117,32 +124,81 @@ int MixedQuestion::drawDirection(Random::Source& rnd)
     return static_cast<int>(2 * rnd.rnd() + 1);
 }
 
+int MixedRange::largestImproperNumerator() const
+{
+    const int largestWhole = direction == MixedQuestion::kToMixed ? largestWholeToMixed
+        : direction == MixedQuestion::kToImproper                 ? largestWholeToImproper
+                                                   : std::max(largestWholeToMixed, largestWholeToImproper);
+    return largestDenom * largestWhole + std::min(largestNumer, largestDenom - 1);
+}
+
 MixedQuestion MixedQuestion::draw(Random::Source& rnd)
 {
     return drawDirection(rnd) == kToMixed ? drawImproper(rnd) : drawMixed(rnd);
 }
 
-MixedQuestion MixedQuestion::drawImproper(Random::Source& rnd)
+MixedQuestion MixedQuestion::draw(Random::Source& rnd, const Range& range, const MixedQuestion* last)
+{
+    MixedQuestion q;
+    do {
+        const int way = range.direction == kEitherWay ? drawDirection(rnd) : range.direction;
+        q = way == kToMixed ? drawImproper(rnd, range) : drawMixed(rnd, range);
+    } while (last && q == *last);
+    return q;
+}
+
+MixedQuestion MixedQuestion::drawImproper(Random::Source& rnd, const Range& range)
 {
     MixedQuestion q;
     q.direction = kToMixed;
     do {
-        q.whole = drawUpTo(rnd, kLargestWholeToMixed);
-        q.numer = drawUpTo(rnd, kLargestNumer);
-        q.denom = drawDenom(rnd);
+        q.whole = drawUpTo(rnd, range.largestWholeToMixed);
+        q.numer = drawUpTo(rnd, range.largestNumer);
+        q.denom = drawDenom(rnd, range.largestDenom);
     } while (!(Fractions::hcf(q.numer, q.denom) == 1 && Fractions::hcf(q.improperNumerator(), q.denom) == 1
                && q.numer <= q.denom));
     return q;
 }
 
-MixedQuestion MixedQuestion::drawMixed(Random::Source& rnd)
+MixedQuestion MixedQuestion::drawMixed(Random::Source& rnd, const Range& range)
 {
     MixedQuestion q;
     q.direction = kToImproper;
     do {
-        q.whole = drawUpTo(rnd, kLargestWholeToImproper);
-        q.numer = drawUpTo(rnd, kLargestNumer);
-        q.denom = drawDenom(rnd);
+        q.whole = drawUpTo(rnd, range.largestWholeToImproper);
+        q.numer = drawUpTo(rnd, range.largestNumer);
+        q.denom = drawDenom(rnd, range.largestDenom);
     } while (!(Fractions::hcf(q.numer, q.denom) == 1 && q.numer <= q.denom));
     return q;
+}
+
+QString MixedQuestion::instruction(bool inWords) const
+{
+    const QString improper = inWords ? Fractions::words(improperNumerator(), denom)
+                                     : num(improperNumerator()) + QLatin1Char('/') + num(denom);
+    if (direction == kToMixed)
+        return QCoreApplication::translate("MixedQuestion", "Change %1 to a mixed number.").arg(improper);
+    const QString mixed = inWords ? Fractions::mixedWords(whole, numer, denom)
+                                  : QCoreApplication::translate("MixedQuestion", "%1 and %2/%3", "a mixed number: 2 and 3/4")
+                                        .arg(whole)
+                                        .arg(numer)
+                                        .arg(denom);
+    return QCoreApplication::translate("MixedQuestion", "Change %1 to an improper fraction.").arg(mixed);
+}
+
+Verdict MixedQuestion::check(const QList<int>& typed) const
+{
+    const QList<int> right = answerNumbers();
+    if (typed.size() != right.size() || typed.contains(0))
+        return Verdict::notCheckable(
+            QCoreApplication::translate("MixedQuestion", "Type a number in every box first!"));
+    const QString sentence = answerText() + QLatin1Char('.');
+    return typed == right ? Verdict::right(sentence) : Verdict::wrong(sentence);
+}
+
+QList<int> MixedQuestion::answerNumbers() const
+{
+    if (direction == kToMixed)
+        return {whole, numer, denom};
+    return {improperNumerator(), denom};
 }

@@ -12,6 +12,8 @@ private slots:
     void onlyTheExactNumbersAreRight();
     void sentences_data();
     void sentences();
+    void boardCheck_data();
+    void boardCheck();
 };
 
 // Every draw is a proper fraction in lowest terms beside a whole number in
@@ -92,6 +94,11 @@ void TestMixedQuestion::sentences_data()
                                << "Each whole number is 8 eighths. You have 1 whole number and 5 eighths.";
     QTest::newRow("1 and 1/2") << toImproper << 1 << 1 << 2 << "1 and 1/2 is 3/2" << "1 x 2 = 2"
                                << "Each whole number is 2 halves. You have 1 whole number and 1 half.";
+    // Year 6 goes on to elevenths and twelfths.
+    QTest::newRow("23/11") << toMixed << 2 << 1 << 11 << "23/11 is 2 and 1/11" << ""
+                           << "22 elevenths is 2 whole ones with 1 eleventh left over.";
+    QTest::newRow("12 and 11/12") << toImproper << 12 << 11 << 12 << "12 and 11/12 is 155/12" << "12 x 12 = 144"
+                                  << "Each whole number is 12 twelfths. You have 12 whole numbers and 11 twelfths.";
 }
 
 void TestMixedQuestion::sentences()
@@ -104,6 +111,39 @@ void TestMixedQuestion::sentences()
     QTEST(q.answerText(), "answer");
     QTEST(q.hintText(), "hint");
     QTEST(q.productText(), "product");
+}
+
+// The boards' check reads the boxes of the question's own direction; the
+// question is 11/4 = 2 and 3/4 either way, asked in words and in figures.
+void TestMixedQuestion::boardCheck_data()
+{
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<QList<int>>("typed");
+    QTest::addColumn<int>("kind");
+    const int toMixed = MixedQuestion::kToMixed, toImproper = MixedQuestion::kToImproper;
+    QTest::newRow("mixed number right") << toMixed << QList<int>{2, 3, 4} << int(Verdict::Right);
+    QTest::newRow("numerator and denominator swapped") << toMixed << QList<int>{2, 4, 3} << int(Verdict::Wrong);
+    QTest::newRow("an empty box") << toMixed << QList<int>{2, 0, 4} << int(Verdict::NotCheckable);
+    QTest::newRow("improper fraction right") << toImproper << QList<int>{11, 4} << int(Verdict::Right);
+    QTest::newRow("unreduced 22/8") << toImproper << QList<int>{22, 8} << int(Verdict::Wrong);
+    QTest::newRow("nothing typed") << toImproper << QList<int>{0, 0} << int(Verdict::NotCheckable);
+}
+
+void TestMixedQuestion::boardCheck()
+{
+    QFETCH(int, direction);
+    QFETCH(QList<int>, typed);
+    QFETCH(int, kind);
+    const MixedQuestion q{direction, 2, 3, 4};
+    const Verdict verdict = q.check(typed);
+    QCOMPARE(int(verdict.kind), kind);
+    QCOMPARE(verdict.statement, kind == Verdict::NotCheckable ? QStringLiteral("Type a number in every box first!")
+                                                              : q.answerText() + QLatin1Char('.'));
+    const bool toMixed = direction == MixedQuestion::kToMixed;
+    QCOMPARE(q.instruction(true), toMixed ? QStringLiteral("Change eleven quarters to a mixed number.")
+                                          : QStringLiteral("Change two and three quarters to an improper fraction."));
+    QCOMPARE(q.instruction(false), toMixed ? QStringLiteral("Change 11/4 to a mixed number.")
+                                           : QStringLiteral("Change 2 and 3/4 to an improper fraction."));
 }
 
 QTEST_APPLESS_MAIN(TestMixedQuestion)

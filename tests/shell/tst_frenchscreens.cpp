@@ -1,8 +1,9 @@
-// With French installed, five screens (two part way through a question) show
+// With French installed, six screens (three part way through a question) show
 // no English: every word seen or heard is French or the same in both languages.
 #include "activities/halvesshapes/shapesboard.h"
 #include "activities/halvesshapes/y2fractions2.h"
 #include "activities/mixed/y5fract4.h"
+#include "activities/review/y5fract5.h"
 #include "kit/parts/shapeboard.h"
 #include "menus/year.h"
 #include "shell/language.h"
@@ -80,6 +81,11 @@ Form* openScreen(const QString& which)
         form->cmdhint_Click();
         return form;
     }
+    if (which == QLatin1String("Year 5 review")) { // a question of the review, a hint asked for
+        auto* review = started<y5fract5>("y5Intro", "Command6");
+        review->cmdhint_Click();
+        return review;
+    }
     auto* form = started<y5fract4>("y5Intro2", "Command1"); // mixed numbers, a hint asked for
     form->cmdhint_Click();
     return form;
@@ -120,6 +126,7 @@ private slots:
         QTest::newRow("Year 2 menu") << "Year 2 menu" << QStringLiteral("Demis et quarts 2");
         QTest::newRow("Halves and Quarters 2, a hint") << "Halves and Quarters 2" << QStringLiteral("Indice");
         QTest::newRow("mixed numbers, a hint") << "mixed numbers" << QStringLiteral("Vérifier");
+        QTest::newRow("Year 5 review, a hint") << "Year 5 review" << QStringLiteral("Vérifier");
     }
     void screenSpeaksFrench()
     {

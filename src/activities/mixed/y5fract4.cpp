@@ -39,8 +39,8 @@ int boxValue(const QLineEdit* box)
 }
 } // namespace
 
-y5fract4::y5fract4()
-    : ActivityForm(QStringLiteral("y5fract4"))
+y5fract4::y5fract4(const MixedMode& mode)
+    : ActivityForm(QString::fromLatin1(mode.screen))
     , Timer1(addTimer(QStringLiteral("Timer1"), kTimer1Ms))
     , Timer2(addTimer(QStringLiteral("Timer2"), kTimer2Ms))
     , Timer3(addTimer(QStringLiteral("Timer3"), kTimer3Ms))
@@ -48,11 +48,13 @@ y5fract4::y5fract4()
     , Timer5(addTimer(QStringLiteral("Timer5"), kTimer5Ms))
     , Timer6(addTimer(QStringLiteral("Timer6"), kTimer6Ms))
     , Timer7(addTimer(QStringLiteral("Timer7"), kTimer7Ms))
+    , m_mode(mode)
 {
     buildBoard();
     run().setLabels(Label1, Label2, Label80);
     // The certificate's title as this screen passes it; the certificate does not use it.
-    run().setCertificateWords(QCoreApplication::translate("Activities", "Equivalent Fractions 3"));
+    run().setCertificateWords(m_mode.certificateWords ? QCoreApplication::translate("Activities", m_mode.certificateWords)
+                                                      : Label4->text());
     // A number is written with a blank before it where a minus would stand.
     run().setStreakWithBlank(true);
 
@@ -119,7 +121,7 @@ void y5fract4::newquestion()
 {
     setEnabled(true);
     Random::Randomize();
-    showQuestion(MixedQuestion::draw(Random::program()));
+    showQuestion(MixedQuestion::draw(Random::program(), m_mode.range, m_mode.mayRepeat ? nullptr : &m_question));
 }
 
 void y5fract4::showQuestion(const MixedQuestion& question)

@@ -3,7 +3,11 @@
 // Numbers" (Year 5): each question shows an improper fraction to be typed as
 // a mixed number, or a mixed number to be typed as an improper fraction,
 // one answer box at a time. Practice with hints leads to the Challenge.
+//
+// The same screen runs the activity's other modes (mixedmodes.h): one way
+// only, and Year 6's larger numbers; each under its own screen name.
 #include "fractions/mixedquestion.h"
+#include "mixedmodes.h"
 #include "shell/activityform.h"
 
 class FormTimer;
@@ -14,7 +18,9 @@ class QLineEdit;
 class y5fract4 : public ActivityForm {
     Q_OBJECT
 public:
-    y5fract4();
+    // The designed Year 5 activity, or another mode of it.
+    explicit y5fract4(const MixedMode& mode = MixedModes::mode(MixedModes::kBothWays));
+    const MixedMode& mode() const { return m_mode; }
 
     QLabel* Label1;  // the question's instruction
     QLabel* Label2;  // feedback after a check, in Label1's place
@@ -116,6 +122,7 @@ private:
     // label and returns true; otherwise it is emptied and keeps the focus.
     bool enter(QLineEdit* box, QLabel* label);
 
+    const MixedMode& m_mode;
     MixedQuestion m_question;
     QString m_answertext;
 };

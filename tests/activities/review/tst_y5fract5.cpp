@@ -1,0 +1,182 @@
+// The Year 5 review: which board poses each question, what goes to the board
+// on show and what comes back from it, one question by the keyboard alone,
+// and the worksheet.
+#include "activities/mixed/mixedboard.h"
+#include "activities/review/y5fract5.h"
+#include "sheetcheck.h"
+#include "testsupport.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace Module1;
+
+namespace {
+constexpr int kDraws = 3000;
+
+// A board that notes what is asked of it and answers with its own name.
+class Probe : public KitBoard {
+public:
+    QStringList calls;
+    void pose(Random::Source&) override {}
+    QString instruction() const override { return objectName(); }
+    Verdict check() override { return note("check", Verdict::right(objectName())); }
+    QString hint() override { return note("hint", Verdict()).statement + objectName(); }
+    void setAnswering(bool) override { note("setAnswering", Verdict()); }
+    void focusAnswer() override { note("focusAnswer", Verdict()); }
+    void showChecked(const Verdict&) override { note("showChecked", Verdict()); }
+    void giveRightAnswer() override { note("giveRightAnswer", Verdict()); }
+
+private:
+    Verdict note(const char* call, const Verdict& v)
+    {
+        calls << QString::fromLatin1(call);
+        return v;
+    }
+};
+
+const QVector<ReviewBoard::Member> kProbes{
+    {"First", ReviewBoard::make<Probe>, nullptr},
+    {"Second", ReviewBoard::make<Probe>, nullptr},
+};
+
+// Each number into the box with the keyboard, then ENTER.
+void typeInTurn(const QList<int>& numbers)
+{
+    for (int n : numbers) {
+        QTest::keyClicks(QApplication::focusWidget(), QString::number(n));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+}
+
+y5fract5* startedFromMenu()
+{
+    Forms::show(QStringLiteral("y5Intro"))->findChild<QPushButton*>(QStringLiteral("Command6"))->click();
+    TestSupport::flushUnloads();
+    auto* form = Forms::find<y5fract5>();
+    QApplication::setActiveWindow(form);
+    QTest::keyClick(form->cmdstart, Qt::Key_Space);
+    return form;
+}
+} // namespace
+
+class TestY5fract5 : public QObject {
+    Q_OBJECT
+    TestSupport::World world;
+private slots:
+    void init() { world.fresh(5); }
+
+    // Over many questions every board poses some, only the one posing shows,
+    // and no question comes twice in a row.
+    void drawsEveryBoard()
+    {
+        auto* form = qobject_cast<y5fract5*>(Forms::show(QStringLiteral("y5fract5")));
+        ReviewBoard* review = form->review();
+        QCOMPARE(review->count(), y5fract5::members().size());
+        QVector<int> posed(review->count(), 0);
+        QString before;
+        for (int n = 0; n < kDraws; ++n) {
+            review->pose(Random::program());
+            // A board's instruction may be the same for every question (the
+            // chain's), so the question is known by what its parts say.
+            QString asked = review->shown()->objectName() + QLatin1Char(' ') + review->instruction();
+            for (const QWidget* part : review->shown()->findChildren<QWidget*>())
+                asked += QLatin1Char('|') + part->accessibleName();
+            QVERIFY2(asked != before, qPrintable(asked));
+            before = asked;
+            ++posed[review->shownIndex()];
+            for (int m = 0; m < review->count(); ++m)
+                QCOMPARE(review->member(m)->isVisibleTo(review), m == review->shownIndex());
+        }
+        for (int count : posed)
+            QVERIFY2(count > kDraws / (2 * review->count()), qPrintable(QString::number(count)));
+    }
+
+    void forwardsToTheShownBoard_data()
+    {
+        QTest::addColumn<QString>("call");
+        for (const char* call : {"check", "hint", "setAnswering", "focusAnswer", "showChecked", "giveRightAnswer"})
+            QTest::newRow(call) << QString::fromLatin1(call);
+    }
+
+    // What the screen asks goes to the board on show alone, and its answer
+    // comes back; so do its signals, never another board's.
+    void forwardsToTheShownBoard()
+    {
+        QFETCH(QString, call);
+        ReviewBoard review(kProbes);
+        for (int n = 0; n < kDraws && review.shownIndex() != 1; ++n)
+            review.pose(Random::program());
+        QCOMPARE(review.shownIndex(), 1);
+        auto* shown = static_cast<Probe*>(review.shown());
+        auto* other = static_cast<Probe*>(review.member(0));
+        const std::map<QString, std::function<QString()>> calls{
+            {"check", [&] { return review.check().statement; }},
+            {"hint", [&] { return review.hint(); }},
+            {"setAnswering", [&] { return review.setAnswering(true), shown->objectName(); }},
+            {"focusAnswer", [&] { return review.focusAnswer(), shown->objectName(); }},
+            {"showChecked", [&] { return review.showChecked(Verdict()), shown->objectName(); }},
+            {"giveRightAnswer", [&] { return review.giveRightAnswer(), shown->objectName(); }},
+        };
+        QCOMPARE(calls.at(call)(), QStringLiteral("Second"));
+        QCOMPARE(shown->calls, QStringList{call});
+        QVERIFY(other->calls.isEmpty());
+
+        QSignalSpy answered(&review, &KitBoard::answered);
+        QSignalSpy refused(&review, &KitBoard::refused);
+        for (Probe* board : {other, shown}) {
+            emit board->answered();
+            emit board->refused(board->objectName());
+        }
+        QCOMPARE(answered.count(), 1);
+        QCOMPARE(refused.count(), 1);
+        QCOMPARE(refused.at(0).at(0).toString(), QStringLiteral("Second"));
+    }
+
+    // Start, a refused empty box, a hint, a wrong answer, then a right one,
+    // all by keys on the board on show, with its own check and hint.
+    void oneQuestionByKeyboard()
+    {
+        y5fract5* form = startedFromMenu();
+        auto* board = qobject_cast<MixedBoard*>(form->review()->shown());
+        QVERIFY(board);
+        const MixedQuestion q = board->question();
+        QCOMPARE(form->Label1->text(), q.instruction(true));
+        const bool toMixed = q.direction == MixedQuestion::kToMixed;
+        QCOMPARE(QApplication::focusWidget(), toMixed ? board->Text1 : board->Text3);
+
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(form->Label2->text(), QStringLiteral("Type a number in every box first!"));
+        form->cmdhint->click();
+        QCOMPARE(form->Label2->text(), q.hintText());
+        QCOMPARE(board->Label20->isVisible(), !toMixed);
+
+        QList<int> wrong = q.answerNumbers();
+        ++wrong[0];
+        typeInTurn(wrong);
+        QCOMPARE(form->Label2->text(), QStringLiteral("Not quite. %1.").arg(q.answerText()));
+        QCOMPARE(counter, 0);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // on at once
+        const MixedQuestion next = qobject_cast<MixedBoard*>(form->review()->shown())->question();
+        typeInTurn(next.answerNumbers());
+        QCOMPARE(counter, 1);
+        QCOMPARE(form->Label2->text(), praisetext + next.answerText() + QLatin1Char('.'));
+    }
+
+    // Print asks first, then prints 12 questions drawn across the boards.
+    void worksheet()
+    {
+        if (!PdfSupport::missingTool().isEmpty())
+            QSKIP("poppler-utils is not installed");
+        auto* form = qobject_cast<ActivityForm*>(Forms::show(QStringLiteral("y5fract5")));
+        world.answer = MsgBox::Answer::Yes;
+        QCOMPARE(SheetCheck::printAndRead(form->cmdprint, y5fract5::worksheet), QString());
+        QCOMPARE(world.messages.size(), 1);
+    }
+};
+
+QTEST_MAIN(TestY5fract5)
+#include "tst_y5fract5.moc"
