@@ -5,6 +5,8 @@
 #include "activities/halvesnumbers/y2fractions3.h"
 #include "activities/halvesshapes/shapesboard.h"
 #include "activities/halvesshapes/y2fractions2.h"
+#include "activities/howmany/howmanyboard.h"
+#include "activities/howmany/y6fract4.h"
 #include "activities/mixed/y5fract4.h"
 #include "activities/ordering/y6fract3.h"
 #include "runtime/forms.h"
@@ -68,7 +70,7 @@ const QVector<Row>& all()
         {"y6Intro", "Command2", kBothWays, "y6fract1", kEither},
         {"y6Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Decimals Between"), "y6fract2", kEither},
         {"y6Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Place In Order"), "Y6fract3", kEither, make<Y6fract3>, "y6fracprint3"},
-        {"y6Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "How Many?"), "y6fract4", kEither},
+        {"y6Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "How Many?"), "y6fract4", kEither, make<y6fract4>, nullptr, HowManyBoard::worksheet},
         {"y6Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Finding Amounts"), "y6fract5", kEither},
         {"y6Intro", "Command7", QT_TRANSLATE_NOOP("Activities", "Digits"), "y6fract6", kEither},
         {"y6Intro", "Command8", QT_TRANSLATE_NOOP("Activities", "Rounding"), "y6fract7", kEither},
