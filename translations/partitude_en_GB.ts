@@ -250,6 +250,21 @@
     </message>
 </context>
 <context>
+    <name>AmountsBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>your answer</translation>
+    </message>
+    <message>
+        <source>your answer, in %1</source>
+        <translation>your answer, in %1</translation>
+    </message>
+    <message>
+        <source>Find each amount. 10% is one tenth; 25% is one quarter.</source>
+        <translation>Find each amount. 10% is one tenth; 25% is one quarter.</translation>
+    </message>
+</context>
+<context>
     <name>ArrowLabel</name>
     <message>
         <source>an arrow pointing down</source>

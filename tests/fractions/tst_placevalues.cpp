@@ -3,6 +3,7 @@
 // and no desktop language changes a number.
 #include "fractions/digitvalue.h"
 #include "fractions/findingamounts.h"
+#include "fractions/fraction.h"
 #include "fractions/howmany.h"
 #include "runtime/random.h"
 
@@ -22,7 +23,19 @@ HowMany::Question howMany(int thousandths, int places, int counted)
     q.counted = counted;
     return q;
 }
+Amounts::Question amount(int percent, int top, int bottom, int amount, Amounts::Unit unit = Amounts::Unit::None)
+{
+    Amounts::Question q;
+    q.percent = percent;
+    q.top = top;
+    q.bottom = bottom;
+    q.amount = amount;
+    q.unit = unit;
+    return q;
+}
 } // namespace
+
+Q_DECLARE_METATYPE(Amounts::Question)
 
 class TestPlaceValues : public QObject {
     Q_OBJECT
@@ -33,6 +46,11 @@ private slots:
     void howManyVerdicts();
     void howManyHints_data();
     void howManyHints();
+    void amountDraws();
+    void amountVerdicts_data();
+    void amountVerdicts();
+    void amountHints_data();
+    void amountHints();
 };
 
 void TestPlaceValues::spokenNumbers()
@@ -137,6 +155,98 @@ void TestPlaceValues::howManyHints()
     QFETCH(int, counted);
     QFETCH(QString, hint);
     QCOMPARE(HowMany::hint(howMany(thousandths, places, counted)), hint);
+}
+
+void TestPlaceValues::amountDraws()
+{
+    const QSet<int> percents(std::begin(Amounts::kPercents), std::end(Amounts::kPercents));
+    for (quint64 seed : kSeeds) {
+        Random::Source rnd(seed);
+        Amounts::Question last;
+        QSet<int> kinds;
+        QSet<int> units;
+        for (int i = 0; i < kDraws; ++i) {
+            const Amounts::Question q = Amounts::draw(rnd, i ? &last : nullptr);
+            QVERIFY(i == 0 || !(q == last));
+            QVERIFY(q.amount >= 1 && q.amount <= Amounts::kLargestAmount);
+            if (q.isPercent()) {
+                QVERIFY(percents.contains(q.percent));
+                QCOMPARE(q.amount * q.percent % 100, 0);
+                kinds << q.percent;
+            } else {
+                QVERIFY(q.bottom >= Amounts::kSmallestBottom && q.bottom <= Amounts::kLargestBottom);
+                QVERIFY(q.top >= 1 && q.top < q.bottom && Fractions::inLowestTerms(q.top, q.bottom));
+                QCOMPARE(q.amount % q.bottom, 0);
+                kinds << -q.bottom;
+            }
+            // A whole answer the box holds, and a bar whose boxes each hold a whole number.
+            QVERIFY(q.answer() > 0 && QString::number(q.answer()).size() <= Amounts::kAnswerDigits);
+            const Amounts::Bar bar = Amounts::bar(q);
+            QCOMPARE(bar.parts * bar.perPart, q.amount);
+            QVERIFY(bar.shaded >= 0 && bar.shaded <= bar.parts && bar.perPart * bar.shaded <= q.answer());
+            units << int(q.unit);
+            last = q;
+        }
+        QCOMPARE(kinds.size(), int(percents.size()) + Amounts::kLargestBottom - 1);
+        QCOMPARE(units.size(), 4);
+    }
+}
+
+void TestPlaceValues::amountVerdicts_data()
+{
+    QTest::addColumn<Amounts::Question>("question");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("verdict");
+    QTest::addColumn<QString>("statement");
+    const int right = Verdict::Right, wrong = Verdict::Wrong, kept = Verdict::NotCheckable;
+    QTest::newRow("25% of 80") << amount(25, 0, 0, 80) << "20" << right << "25% of 80 is 20.";
+    QTest::newRow("3/8 of 64") << amount(0, 3, 8, 64) << "24" << right << "3/8 of 64 is 24.";
+    QTest::newRow("one eighth for 3/8") << amount(0, 3, 8, 64) << "8" << wrong << "3/8 of 64 is 24.";
+    QTest::newRow("10% of 250 kg") << amount(10, 0, 0, 250, Amounts::Unit::Kilograms) << "25" << right
+                                   << "10% of 250 kg is 25 kg.";
+    QTest::newRow("15% of £60") << amount(15, 0, 0, 60, Amounts::Unit::Pounds) << "9" << right << "15% of £60 is £9.";
+    QTest::newRow("1% of 300 m") << amount(1, 0, 0, 300, Amounts::Unit::Metres) << "30" << wrong
+                                 << "1% of 300 m is 3 m.";
+    QTest::newRow("empty") << amount(25, 0, 0, 80) << "" << kept << "Type your answer in the box first!";
+    QTest::newRow("zero") << amount(25, 0, 0, 80) << "0" << kept
+                          << "0 is not the answer: every amount here is more than 0.";
+    QTest::newRow("leading zero") << amount(25, 0, 0, 80) << "020" << kept << "Write your number without a 0 in front.";
+    QTest::newRow("too long") << amount(25, 0, 0, 80) << "2000" << kept << "That number is too long.";
+}
+
+void TestPlaceValues::amountVerdicts()
+{
+    QFETCH(Amounts::Question, question);
+    QFETCH(QString, typed);
+    QFETCH(int, verdict);
+    QFETCH(QString, statement);
+    const Verdict v = Amounts::check(question, typed);
+    QCOMPARE(int(v.kind), verdict);
+    QCOMPARE(v.statement, statement);
+}
+
+void TestPlaceValues::amountHints_data()
+{
+    QTest::addColumn<Amounts::Question>("question");
+    QTest::addColumn<QString>("hint");
+    QTest::newRow("1%") << amount(1, 0, 0, 300) << "1% is one hundredth: 300 ÷ 100 = 3.";
+    QTest::newRow("5%") << amount(5, 0, 0, 60) << "10% is one tenth: 60 ÷ 10 = 6. 5% is half of 10%: 6 ÷ 2 = 3.";
+    QTest::newRow("10%") << amount(10, 0, 0, 250) << "10% is one tenth: 250 ÷ 10 = 25.";
+    QTest::newRow("15%") << amount(15, 0, 0, 60)
+                         << "15% is 10% and 5%. 10% of 60 is 6 and 5% is half of that, 3: 6 + 3 = 9.";
+    QTest::newRow("20%") << amount(20, 0, 0, 70) << "10% is one tenth: 70 ÷ 10 = 7. 20% is two lots of 10%: 7 × 2 = 14.";
+    QTest::newRow("25%") << amount(25, 0, 0, 80) << "25% is one quarter: 80 ÷ 4 = 20.";
+    QTest::newRow("50%") << amount(50, 0, 0, 90) << "50% is one half: 90 ÷ 2 = 45.";
+    QTest::newRow("75%") << amount(75, 0, 0, 80) << "75% is three quarters: 80 ÷ 4 = 20, and 20 × 3 = 60.";
+    QTest::newRow("1/8") << amount(0, 1, 8, 64) << "To find 1/8 of 64, divide by 8: 64 ÷ 8 = 8.";
+    QTest::newRow("3/8") << amount(0, 3, 8, 64) << "1/8 of 64 is 64 ÷ 8 = 8, so 3/8 of 64 is 8 × 3 = 24.";
+}
+
+void TestPlaceValues::amountHints()
+{
+    QFETCH(Amounts::Question, question);
+    QFETCH(QString, hint);
+    QCOMPARE(Amounts::hint(question), hint);
 }
 
 QTEST_GUILESS_MAIN(TestPlaceValues)
