@@ -366,6 +366,17 @@ Click Goodbye and choose another one for now.</translation>
     </message>
 </context>
 <context>
+    <name>DigitsBoard</name>
+    <message>
+        <source>Write the value of the digit: 3 tenths (0.3).</source>
+        <translation>Write the value of the digit: 3 tenths (0.3).</translation>
+    </message>
+    <message>
+        <source>What is the value of the %1 in %2?</source>
+        <translation>What is the value of the %1 in %2?</translation>
+    </message>
+</context>
+<context>
     <name>FocusRing</name>
     <message>
         <source>Keyboard focus</source>

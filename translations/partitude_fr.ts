@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Find each amount. 10% is one tenth; 25% is one quarter.</source>
-        <translation>Trouve chaque quantité. 10 % est un dixième ; 25 % est un quart.</translation>
+        <translation>Trouve chaque quantité. 10&#xa0;% est un dixième&#xa0;; 25&#xa0;% est un quart.</translation>
     </message>
 </context>
 <context>
@@ -363,6 +363,17 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <message>
         <source>The %1 in %2 is %3.</source>
         <translation>Le %1 de %2 vaut %3.</translation>
+    </message>
+</context>
+<context>
+    <name>DigitsBoard</name>
+    <message>
+        <source>Write the value of the digit: 3 tenths (0.3).</source>
+        <translation>Écris la valeur du chiffre : 3 dixièmes (0.3).</translation>
+    </message>
+    <message>
+        <source>What is the value of the %1 in %2?</source>
+        <translation>Quelle est la valeur du %1 dans %2 ?</translation>
     </message>
 </context>
 <context>

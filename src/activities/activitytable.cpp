@@ -2,6 +2,8 @@
 
 #include "activities/amounts/amountsboard.h"
 #include "activities/amounts/y6fract5.h"
+#include "activities/digits/digitsboard.h"
+#include "activities/digits/y6fract6.h"
 #include "activities/halves/y2fractions.h"
 #include "activities/halvesnumbers/picturesboard.h"
 #include "activities/halvesnumbers/y2fractions3.h"
@@ -74,7 +76,7 @@ const QVector<Row>& all()
         {"y6Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Place In Order"), "Y6fract3", kEither, make<Y6fract3>, "y6fracprint3"},
         {"y6Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "How Many?"), "y6fract4", kEither, make<y6fract4>, nullptr, HowManyBoard::worksheet},
         {"y6Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Finding Amounts"), "y6fract5", kEither, make<y6fract5>, nullptr, AmountsBoard::worksheet},
-        {"y6Intro", "Command7", QT_TRANSLATE_NOOP("Activities", "Digits"), "y6fract6", kEither},
+        {"y6Intro", "Command7", QT_TRANSLATE_NOOP("Activities", "Digits"), "y6fract6", kEither, make<y6fract6>, nullptr, DigitsBoard::worksheet},
         {"y6Intro", "Command8", QT_TRANSLATE_NOOP("Activities", "Rounding"), "y6fract7", kEither},
     };
     return rows;

@@ -51,6 +51,9 @@ private slots:
     void amountVerdicts();
     void amountHints_data();
     void amountHints();
+    void digitDraws();
+    void digitTexts();
+    void sameInEveryLanguage();
 };
 
 void TestPlaceValues::spokenNumbers()
@@ -247,6 +250,77 @@ void TestPlaceValues::amountHints()
     QFETCH(Amounts::Question, question);
     QFETCH(QString, hint);
     QCOMPARE(Amounts::hint(question), hint);
+}
+
+void TestPlaceValues::digitDraws()
+{
+    for (quint64 seed : kSeeds) {
+        Random::Source rnd(seed);
+        Digits::Question last;
+        QSet<int> marked;
+        for (int i = 0; i < kDraws; ++i) {
+            const Digits::Question q = Digits::draw(rnd, i ? &last : nullptr);
+            QVERIFY(i == 0 || !(q == last));
+            const QString number = q.number();
+            QVERIFY(q.thousandths / Places::kScale <= Digits::kLargestWhole);
+            QVERIFY(q.places >= 1 && q.places <= Places::kMostPlaces);
+            QCOMPARE(Places::placesOf(q.thousandths), q.places);
+            // The marked digit is in the number, not 0, and the only one of its kind.
+            QVERIFY(q.digit() > 0);
+            QCOMPARE(number.at(q.markedIndex()), QChar(u'0' + q.digit()));
+            QCOMPARE(number.count(number.at(q.markedIndex())), 1);
+            // Four different places, the marked one on the right card.
+            QCOMPARE(q.cards.size(), Digits::kCards);
+            QCOMPARE(QSet<int>(q.cards.begin(), q.cards.end()).size(), Digits::kCards);
+            for (int place : q.cards)
+                QVERIFY(place >= Places::kThousandths && place <= Places::kTens);
+            QCOMPARE(q.cards.value(q.right), q.marked);
+            marked << q.marked * 10 + q.right;
+            last = q;
+        }
+        QCOMPARE(marked.size(), 5 * Digits::kCards); // every place, on every card
+    }
+}
+
+void TestPlaceValues::digitTexts()
+{
+    Digits::Question q; // 42.317, the 3 marked
+    q.cards = {Places::kTens, Places::kOnes, Places::kTenths, Places::kThousandths};
+    q.right = 2;
+    QCOMPARE(q.instruction(), QStringLiteral("What is the value of the 3?"));
+    QCOMPARE(q.cardTexts(), QStringList({"3 tens (30)", "3 ones (3)", "3 tenths (0.3)", "3 thousandths (0.003)"}));
+    QCOMPARE(q.spokenCards().value(2), QStringLiteral("3 tenths (zero point three)"));
+    QCOMPARE(Digits::valueText(1, Places::kTens), QStringLiteral("1 ten (10)"));
+    QCOMPARE(Digits::valueText(1, Places::kHundredths), QStringLiteral("1 hundredth (0.01)"));
+    QCOMPARE(int(Digits::check(q, 2).kind), int(Verdict::Right));
+    QCOMPARE(Digits::check(q, 3).statement, QStringLiteral("The 3 in 42.317 is 3 tenths (0.3)."));
+    QCOMPARE(int(Digits::check(q, 3).kind), int(Verdict::Wrong));
+    QCOMPARE(Digits::check(q, -1).statement, QStringLiteral("Choose a card first!"));
+    QCOMPARE(Digits::hint(q), QStringLiteral("Look at 42.317 in its place-value columns: the head of the column the 3 "
+                                             "stands in names its value."));
+}
+
+// A desktop that writes 0,45 and 1.000 changes neither the texts nor the verdicts.
+void TestPlaceValues::sameInEveryLanguage()
+{
+    const HowMany::Question howManyQ = howMany(450, 2, -2);
+    const Amounts::Question amountQ = amount(15, 0, 0, 1000, Amounts::Unit::Pounds);
+    Digits::Question digitQ;
+    digitQ.cards = {Places::kTenths, Places::kOnes, Places::kTens, Places::kHundredths};
+    const QStringList english{howManyQ.instruction(), HowMany::check(howManyQ, QStringLiteral("45")).statement,
+                              amountQ.instruction(), Amounts::check(amountQ, QStringLiteral("150")).statement,
+                              digitQ.cardTexts().join(QLatin1Char('|')), Places::spoken(QStringLiteral("0.45"))};
+    QCOMPARE(english[0], QStringLiteral("How many hundredths are there in 0.45?"));
+    QCOMPARE(english[3], QStringLiteral("15% of £1000 is £150."));
+    for (QLocale::Language language : {QLocale::German, QLocale::French}) {
+        QLocale::setDefault(QLocale(language));
+        const QStringList texts{howManyQ.instruction(), HowMany::check(howManyQ, QStringLiteral("45")).statement,
+                                amountQ.instruction(), Amounts::check(amountQ, QStringLiteral("150")).statement,
+                                digitQ.cardTexts().join(QLatin1Char('|')), Places::spoken(QStringLiteral("0.45"))};
+        QCOMPARE(texts, english);
+        QCOMPARE(int(HowMany::check(howManyQ, QStringLiteral("45")).kind), int(Verdict::Right));
+    }
+    QLocale::setDefault(QLocale::c());
 }
 
 QTEST_GUILESS_MAIN(TestPlaceValues)

@@ -9,7 +9,7 @@
 
 namespace {
 constexpr double kMarginShare = 0.06;  // of the widget's smaller side
-constexpr double kHeadsShare = 0.34;   // of the inside's height, for the heads
+constexpr double kHeadsShare = 0.42;   // of the inside's height, for the heads
 constexpr double kGapShare = 0.04;
 constexpr double kPlainTextWidth = 0.8; // how much of the board the plain number may fill
 constexpr double kPlainTextHeight = 0.5;
