@@ -369,11 +369,11 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <name>DigitsBoard</name>
     <message>
         <source>Write the value of the digit: 3 tenths (0.3).</source>
-        <translation>Écris la valeur du chiffre : 3 dixièmes (0.3).</translation>
+        <translation>Écris la valeur du chiffre&#xa0;: 3 dixièmes (0.3).</translation>
     </message>
     <message>
         <source>What is the value of the %1 in %2?</source>
-        <translation>Quelle est la valeur du %1 dans %2 ?</translation>
+        <translation>Quelle est la valeur du %1 dans %2&#xa0;?</translation>
     </message>
 </context>
 <context>

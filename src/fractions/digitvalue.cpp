@@ -48,13 +48,15 @@ QStringList Question::spokenCards() const
 {
     QStringList texts;
     for (int power : cards)
-        texts << QCoreApplication::translate("Digits", "%1 (%2)").arg(Places::count(digit(), power), Places::spoken(worth(digit(), power)));
+        texts << QCoreApplication::translate("Digits", "%1 (%2)")
+                     .arg(Places::count(digit(), power), Places::spoken(worth(digit(), power)));
     return texts;
 }
 
 QString Question::statement() const
 {
-    return QCoreApplication::translate("Digits", "The %1 in %2 is %3.").arg(QString::number(digit()), number(), valueText(digit(), marked));
+    return QCoreApplication::translate("Digits", "The %1 in %2 is %3.")
+        .arg(QString::number(digit()), number(), valueText(digit(), marked));
 }
 
 Question draw(Random::Source& rnd, const Question* last)
@@ -99,7 +101,9 @@ Verdict check(const Question& q, int chosen)
 
 QString hint(const Question& q)
 {
-    return QCoreApplication::translate("Digits", "Look at %1 in its place-value columns: the head of the column the %2 stands in names its value.")
+    return QCoreApplication::translate(
+               "Digits",
+               "Look at %1 in its place-value columns: the head of the column the %2 stands in names its value.")
         .arg(q.number())
         .arg(q.digit());
 }

@@ -107,7 +107,8 @@ Verdict check(const Question& q, const QString& typed)
     case Places::Typed::Empty:
         return Verdict::notCheckable(QCoreApplication::translate("Amounts", "Type your answer in the box first!"));
     case Places::Typed::Zero:
-        return Verdict::notCheckable(QCoreApplication::translate("Amounts", "0 is not the answer: every amount here is more than 0."));
+        return Verdict::notCheckable(
+            QCoreApplication::translate("Amounts", "0 is not the answer: every amount here is more than 0."));
     case Places::Typed::LeadingZero:
         return Verdict::notCheckable(QCoreApplication::translate("Amounts", "Write your number without a 0 in front."));
     case Places::Typed::TooLong:
@@ -139,7 +140,9 @@ QString hint(const Question& q)
             .arg(q.answer());
     }
     case 1:
-        return QCoreApplication::translate("Amounts", "1% is one hundredth: %1 ÷ 100 = %2.").arg(q.amount).arg(q.answer());
+        return QCoreApplication::translate("Amounts", "1% is one hundredth: %1 ÷ 100 = %2.")
+            .arg(q.amount)
+            .arg(q.answer());
     case 5:
         return QCoreApplication::translate("Amounts", "10% is one tenth: %1 ÷ 10 = %2. 5% is half of 10%: %2 ÷ 2 = %3.")
             .arg(q.amount)
@@ -148,13 +151,15 @@ QString hint(const Question& q)
     case 10:
         return QCoreApplication::translate("Amounts", "10% is one tenth: %1 ÷ 10 = %2.").arg(q.amount).arg(q.answer());
     case 15:
-        return QCoreApplication::translate("Amounts", "15% is 10% and 5%. 10% of %1 is %2 and 5% is half of that, %3: %2 + %3 = %4.")
+        return QCoreApplication::translate(
+                   "Amounts", "15% is 10% and 5%. 10% of %1 is %2 and 5% is half of that, %3: %2 + %3 = %4.")
             .arg(q.amount)
             .arg(tenth)
             .arg(tenth / 2)
             .arg(q.answer());
     case 20:
-        return QCoreApplication::translate("Amounts", "10% is one tenth: %1 ÷ 10 = %2. 20% is two lots of 10%: %2 × 2 = %3.")
+        return QCoreApplication::translate("Amounts",
+                                           "10% is one tenth: %1 ÷ 10 = %2. 20% is two lots of 10%: %2 × 2 = %3.")
             .arg(q.amount)
             .arg(tenth)
             .arg(q.answer());

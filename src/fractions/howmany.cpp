@@ -37,7 +37,9 @@ QString listed(const QStringList& items)
 {
     QString text = items.value(0);
     for (int i = 1; i < items.size(); ++i)
-        text = (i + 1 == items.size() ? QCoreApplication::translate("HowMany", "%1 and %2") : QCoreApplication::translate("HowMany", "%1, %2")).arg(text, items[i]);
+        text = (i + 1 == items.size() ? QCoreApplication::translate("HowMany", "%1 and %2")
+                                      : QCoreApplication::translate("HowMany", "%1, %2"))
+                   .arg(text, items[i]);
     return text;
 }
 } // namespace
@@ -88,7 +90,8 @@ Verdict check(const Question& q, const QString& typed)
     case Places::Typed::Empty:
         return Verdict::notCheckable(QCoreApplication::translate("HowMany", "Type your answer in the box first!"));
     case Places::Typed::Zero:
-        return Verdict::notCheckable(QCoreApplication::translate("HowMany", "0 is not the answer: look at the number again."));
+        return Verdict::notCheckable(
+            QCoreApplication::translate("HowMany", "0 is not the answer: look at the number again."));
     case Places::Typed::LeadingZero:
         return Verdict::notCheckable(QCoreApplication::translate("HowMany", "Write your number without a 0 in front."));
     case Places::Typed::TooLong:
@@ -100,9 +103,10 @@ Verdict check(const Question& q, const QString& typed)
         return Verdict::right(q.statement());
     const int digit = Places::digitAt(q.thousandths, q.counted);
     if (value == digit)
-        return Verdict::wrong(QCoreApplication::translate("HowMany", "%1 is %2, not %3: %3 is only the digit in the %4 column.")
-                                  .arg(q.number(), Places::count(q.answer(), q.counted), QString::number(digit),
-                                       Places::columnName(q.counted)));
+        return Verdict::wrong(
+            QCoreApplication::translate("HowMany", "%1 is %2, not %3: %3 is only the digit in the %4 column.")
+                .arg(q.number(), Places::count(q.answer(), q.counted), QString::number(digit),
+                     Places::columnName(q.counted)));
     return Verdict::wrong(q.statement());
 }
 
@@ -130,7 +134,8 @@ QString hint(const Question& q)
     const QString worthText = Fractions::capitalised(listed(worths));
     const QString total = Places::count(q.answer(), q.counted);
     const QString sum = terms.size() > 1
-        ? QCoreApplication::translate("HowMany", "%1, so %2 = %3.").arg(worthText, terms.join(QStringLiteral(" + ")), total)
+        ? QCoreApplication::translate("HowMany", "%1, so %2 = %3.")
+              .arg(worthText, terms.join(QStringLiteral(" + ")), total)
         : QCoreApplication::translate("HowMany", "%1, so %2 × %3 = %4.").arg(worthText).arg(digit).arg(each).arg(total);
     // With two places to turn into the one counted, the columns in the
     // picture say what the number is made of, and the words keep to the sum.

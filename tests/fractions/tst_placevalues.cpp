@@ -139,13 +139,15 @@ void TestPlaceValues::howManyHints_data()
     QTest::addColumn<QString>("hint");
     QTest::newRow("3.7") << 3700 << 1 << -1
                          << "3.7 is 3 ones and 7 tenths. Each one is 10 tenths, so 30 + 7 = 37 tenths.";
-    QTest::newRow("0.45") << 450 << 2 << -2
-                          << "0.45 is 4 tenths and 5 hundredths. Each tenth is 10 hundredths, so 40 + 5 = 45 hundredths.";
+    QTest::newRow("0.45")
+        << 450 << 2 << -2
+        << "0.45 is 4 tenths and 5 hundredths. Each tenth is 10 hundredths, so 40 + 5 = 45 hundredths.";
     QTest::newRow("2.3") << 2300 << 1 << -2
                          << "Each one is 100 hundredths and each tenth is 10 hundredths, so 200 + 30 = 230 hundredths.";
     QTest::newRow("4") << 4000 << 0 << -1 << "4 is 4 ones. Each one is 10 tenths, so 4 × 10 = 40 tenths.";
-    QTest::newRow("0.125") << 125 << 3 << -3
-                           << "Each tenth is 100 thousandths and each hundredth is 10 thousandths, so 100 + 20 + 5 = 125 thousandths.";
+    QTest::newRow("0.125")
+        << 125 << 3 << -3
+        << "Each tenth is 100 thousandths and each hundredth is 10 thousandths, so 100 + 20 + 5 = 125 thousandths.";
     QTest::newRow("0.07") << 70 << 2 << -2 << "0.07 is 7 hundredths.";
     QTest::newRow("3.01") << 3010 << 2 << -2
                           << "3.01 is 3 ones and 1 hundredth. Each one is 100 hundredths, so 300 + 1 = 301 hundredths.";
@@ -237,7 +239,8 @@ void TestPlaceValues::amountHints_data()
     QTest::newRow("10%") << amount(10, 0, 0, 250) << "10% is one tenth: 250 ÷ 10 = 25.";
     QTest::newRow("15%") << amount(15, 0, 0, 60)
                          << "15% is 10% and 5%. 10% of 60 is 6 and 5% is half of that, 3: 6 + 3 = 9.";
-    QTest::newRow("20%") << amount(20, 0, 0, 70) << "10% is one tenth: 70 ÷ 10 = 7. 20% is two lots of 10%: 7 × 2 = 14.";
+    QTest::newRow("20%") << amount(20, 0, 0, 70)
+                         << "10% is one tenth: 70 ÷ 10 = 7. 20% is two lots of 10%: 7 × 2 = 14.";
     QTest::newRow("25%") << amount(25, 0, 0, 80) << "25% is one quarter: 80 ÷ 4 = 20.";
     QTest::newRow("50%") << amount(50, 0, 0, 90) << "50% is one half: 90 ÷ 2 = 45.";
     QTest::newRow("75%") << amount(75, 0, 0, 80) << "75% is three quarters: 80 ÷ 4 = 20, and 20 × 3 = 60.";
