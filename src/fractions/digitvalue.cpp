@@ -64,13 +64,9 @@ Question draw(Random::Source& rnd, const Question* last)
     Question q;
     for (;;) {
         q.places = rnd.between(1, Places::kMostPlaces);
-        int decimals = 0;
-        for (int p = 1; p <= q.places; ++p)
-            decimals = decimals * 10 + (p == q.places ? rnd.between(1, 9) : rnd.between(0, 9));
-        q.thousandths = rnd.between(0, kLargestWhole) * Places::kScale
-            + decimals * Places::tenTo(Places::kMostPlaces - q.places);
-        const int whole = q.thousandths / Places::kScale;
-        const int highest = whole >= 10 ? Places::kTens : Places::kOnes;
+        q.thousandths = rnd.between(0, kLargestWhole) * Places::kScale + Places::drawDecimals(rnd, q.places);
+        const bool hasTens = Places::digitAt(q.thousandths, Places::kTens) > 0;
+        const int highest = hasTens ? Places::kTens : Places::kOnes;
         q.marked = rnd.between(-q.places, highest);
         // The digit asked about is not 0 and stands only once in the number.
         const QString text = q.number();

@@ -12,6 +12,10 @@ namespace Amounts {
 namespace {
 constexpr int kHundred = 100;
 constexpr int kTenthsBar = 10; // 1% to 20% are worked on a bar of ten tenths
+constexpr int kQuarterPercent = 25; // from here on, quarters and halves
+constexpr int kHalfPercent = 50;
+constexpr int kQuarters = 4;
+constexpr int kHalves = 2;
 // A fraction's amount is its bottom times 2 to 12; one time in four ten times that.
 constexpr int kSmallestTimes = 2;
 constexpr int kLargestTimes = 12;
@@ -155,7 +159,7 @@ QString hint(const Question& q)
                    "Amounts", "15% is 10% and 5%. 10% of %1 is %2 and 5% is half of that, %3: %2 + %3 = %4.")
             .arg(q.amount)
             .arg(tenth)
-            .arg(tenth / 2)
+            .arg(tenth / kHalves)
             .arg(q.answer());
     case 20:
         return QCoreApplication::translate("Amounts",
@@ -170,7 +174,7 @@ QString hint(const Question& q)
     default:
         return QCoreApplication::translate("Amounts", "75% is three quarters: %1 ÷ 4 = %2, and %2 × 3 = %3.")
             .arg(q.amount)
-            .arg(q.amount / 4)
+            .arg(q.amount / kQuarters)
             .arg(q.answer());
     }
 }
@@ -179,10 +183,10 @@ Bar bar(const Question& q)
 {
     if (!q.isPercent())
         return {q.bottom, q.amount / q.bottom, q.top};
-    if (q.percent < 25)
+    if (q.percent < kQuarterPercent)
         return {kTenthsBar, q.amount / kTenthsBar, q.percent / kTenthsBar};
     // 25%, 50% and 75% are quarters and halves.
-    const int parts = q.percent == 50 ? 2 : 4;
+    const int parts = q.percent == kHalfPercent ? kHalves : kQuarters;
     return {parts, q.amount / parts, q.percent * parts / kHundred};
 }
 

@@ -75,10 +75,7 @@ Question draw(Random::Source& rnd, const Question* last)
             q.places = rnd.between(1, Places::kMostPlaces);
         const int largest = q.counted == Places::kThousandths ? 0 : kLargestWhole;
         const int whole = rnd.between(q.places == 0 ? 1 : 0, largest);
-        int decimals = 0;
-        for (int p = 1; p <= q.places; ++p)
-            decimals = decimals * 10 + (p == q.places ? rnd.between(1, 9) : rnd.between(0, 9));
-        q.thousandths = whole * Places::kScale + decimals * Places::tenTo(Places::kMostPlaces - q.places);
+        q.thousandths = whole * Places::kScale + Places::drawDecimals(rnd, q.places);
     } while (last && q == *last);
     return q;
 }

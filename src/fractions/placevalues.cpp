@@ -1,6 +1,7 @@
 #include "placevalues.h"
 
 #include "fraction.h"
+#include "runtime/random.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -9,6 +10,7 @@ namespace Places {
 
 namespace {
 constexpr int kTen = 10;
+constexpr int kLargestDigit = 9;
 
 struct PlaceWords {
     int power;
@@ -63,6 +65,14 @@ int countOf(int thousandths, int power)
 {
     const int size = tenTo(power + kMostPlaces);
     return thousandths % size == 0 ? thousandths / size : -1;
+}
+
+int drawDecimals(Random::Source& rnd, int places)
+{
+    int decimals = 0;
+    for (int p = 1; p <= places; ++p)
+        decimals = decimals * kTen + rnd.between(p == places ? 1 : 0, kLargestDigit);
+    return decimals * tenTo(kMostPlaces - places);
 }
 
 QString written(int thousandths, int places)

@@ -7,6 +7,10 @@
 // tenths -1, hundredths -2, thousandths -3.
 #include <QString>
 
+namespace Random {
+class Source;
+}
+
 namespace Places {
 
 constexpr int kTens = 1;
@@ -25,6 +29,10 @@ int digitAt(int thousandths, int power);
 // How many of the place `power` the number holds in all, when that is a
 // whole count ("how many tenths in 3.7": 37); -1 when it is not.
 int countOf(int thousandths, int power);
+
+// A decimal part of exactly `places` places (its last digit not 0), as
+// thousandths: 0.307 is 307, 0.3 is 300.
+int drawDecimals(Random::Source& rnd, int places);
 
 // The number with `places` decimal places: written(2300, 2) is "2.30",
 // written(4000, 0) is "4". Always with ".", whatever the language.
