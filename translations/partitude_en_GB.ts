@@ -171,6 +171,100 @@
     </message>
 </context>
 <context>
+    <name>Amounts</name>
+    <message>
+        <source>%1 kg</source>
+        <translation>%1 kg</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>£%1</source>
+        <translation>£%1</translation>
+    </message>
+    <message>
+        <source>What is %1 of %2?</source>
+        <translation>What is %1 of %2?</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is %3.</source>
+        <translation>%1 of %2 is %3.</translation>
+    </message>
+    <message>
+        <source>Type your answer in the box first!</source>
+        <translation>Type your answer in the box first!</translation>
+    </message>
+    <message>
+        <source>0 is not the answer: every amount here is more than 0.</source>
+        <translation>0 is not the answer: every amount here is more than 0.</translation>
+    </message>
+    <message>
+        <source>Write your number without a 0 in front.</source>
+        <translation>Write your number without a 0 in front.</translation>
+    </message>
+    <message>
+        <source>That number is too long.</source>
+        <translation>That number is too long.</translation>
+    </message>
+    <message>
+        <source>To find %1 of %2, divide by %3: %2 ÷ %3 = %4.</source>
+        <translation>To find %1 of %2, divide by %3: %2 ÷ %3 = %4.</translation>
+    </message>
+    <message>
+        <source>1/%1 of %2 is %2 ÷ %1 = %3, so %4 of %2 is %3 × %5 = %6.</source>
+        <translation>1/%1 of %2 is %2 ÷ %1 = %3, so %4 of %2 is %3 × %5 = %6.</translation>
+    </message>
+    <message>
+        <source>1% is one hundredth: %1 ÷ 100 = %2.</source>
+        <translation>1% is one hundredth: %1 ÷ 100 = %2.</translation>
+    </message>
+    <message>
+        <source>10% is one tenth: %1 ÷ 10 = %2. 5% is half of 10%: %2 ÷ 2 = %3.</source>
+        <translation>10% is one tenth: %1 ÷ 10 = %2. 5% is half of 10%: %2 ÷ 2 = %3.</translation>
+    </message>
+    <message>
+        <source>10% is one tenth: %1 ÷ 10 = %2.</source>
+        <translation>10% is one tenth: %1 ÷ 10 = %2.</translation>
+    </message>
+    <message>
+        <source>15% is 10% and 5%. 10% of %1 is %2 and 5% is half of that, %3: %2 + %3 = %4.</source>
+        <translation>15% is 10% and 5%. 10% of %1 is %2 and 5% is half of that, %3: %2 + %3 = %4.</translation>
+    </message>
+    <message>
+        <source>10% is one tenth: %1 ÷ 10 = %2. 20% is two lots of 10%: %2 × 2 = %3.</source>
+        <translation>10% is one tenth: %1 ÷ 10 = %2. 20% is two lots of 10%: %2 × 2 = %3.</translation>
+    </message>
+    <message>
+        <source>25% is one quarter: %1 ÷ 4 = %2.</source>
+        <translation>25% is one quarter: %1 ÷ 4 = %2.</translation>
+    </message>
+    <message>
+        <source>50% is one half: %1 ÷ 2 = %2.</source>
+        <translation>50% is one half: %1 ÷ 2 = %2.</translation>
+    </message>
+    <message>
+        <source>75% is three quarters: %1 ÷ 4 = %2, and %2 × 3 = %3.</source>
+        <translation>75% is three quarters: %1 ÷ 4 = %2, and %2 × 3 = %3.</translation>
+    </message>
+</context>
+<context>
+    <name>AmountsBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>your answer</translation>
+    </message>
+    <message>
+        <source>your answer, in %1</source>
+        <translation>your answer, in %1</translation>
+    </message>
+    <message>
+        <source>Find each amount. 10% is one tenth; 25% is one quarter.</source>
+        <translation>Find each amount. 10% is one tenth; 25% is one quarter.</translation>
+    </message>
+</context>
+<context>
     <name>ArrowLabel</name>
     <message>
         <source>an arrow pointing down</source>
@@ -398,6 +492,40 @@ Click Goodbye and choose another one for now.</translation>
     <message>
         <source>%1 and %2</source>
         <translation>%1 and %2</translation>
+    </message>
+</context>
+<context>
+    <name>Digits</name>
+    <message>
+        <source>What is the value of the %1?</source>
+        <translation>What is the value of the %1?</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>The %1 in %2 is %3.</source>
+        <translation>The %1 in %2 is %3.</translation>
+    </message>
+    <message>
+        <source>Choose a card first!</source>
+        <translation>Choose a card first!</translation>
+    </message>
+    <message>
+        <source>Look at %1 in its place-value columns: the head of the column the %2 stands in names its value.</source>
+        <translation>Look at %1 in its place-value columns: the head of the column the %2 stands in names its value.</translation>
+    </message>
+</context>
+<context>
+    <name>DigitsBoard</name>
+    <message>
+        <source>Write the value of the digit: 3 tenths (0.3).</source>
+        <translation>Write the value of the digit: 3 tenths (0.3).</translation>
+    </message>
+    <message>
+        <source>What is the value of the %1 in %2?</source>
+        <translation>What is the value of the %1 in %2?</translation>
     </message>
 </context>
 <context>
@@ -1135,6 +1263,96 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
     </message>
 </context>
 <context>
+    <name>HowMany</name>
+    <message>
+        <source>each one is 10 tenths</source>
+        <translation>each one is 10 tenths</translation>
+    </message>
+    <message>
+        <source>each one is 100 hundredths</source>
+        <translation>each one is 100 hundredths</translation>
+    </message>
+    <message>
+        <source>each one is 1000 thousandths</source>
+        <translation>each one is 1000 thousandths</translation>
+    </message>
+    <message>
+        <source>each tenth is 10 hundredths</source>
+        <translation>each tenth is 10 hundredths</translation>
+    </message>
+    <message>
+        <source>each tenth is 100 thousandths</source>
+        <translation>each tenth is 100 thousandths</translation>
+    </message>
+    <message>
+        <source>each hundredth is 10 thousandths</source>
+        <translation>each hundredth is 10 thousandths</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 and %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>How many tenths are there in %1?</source>
+        <translation>How many tenths are there in %1?</translation>
+    </message>
+    <message>
+        <source>How many hundredths are there in %1?</source>
+        <translation>How many hundredths are there in %1?</translation>
+    </message>
+    <message>
+        <source>How many thousandths are there in %1?</source>
+        <translation>How many thousandths are there in %1?</translation>
+    </message>
+    <message>
+        <source>%1 is %2.</source>
+        <translation>%1 is %2.</translation>
+    </message>
+    <message>
+        <source>Type your answer in the box first!</source>
+        <translation>Type your answer in the box first!</translation>
+    </message>
+    <message>
+        <source>0 is not the answer: look at the number again.</source>
+        <translation>0 is not the answer: look at the number again.</translation>
+    </message>
+    <message>
+        <source>Write your number without a 0 in front.</source>
+        <translation>Write your number without a 0 in front.</translation>
+    </message>
+    <message>
+        <source>That number is too long.</source>
+        <translation>That number is too long.</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not %3: %3 is only the digit in the %4 column.</source>
+        <translation>%1 is %2, not %3: %3 is only the digit in the %4 column.</translation>
+    </message>
+    <message>
+        <source>%1, so %2 = %3.</source>
+        <translation>%1, so %2 = %3.</translation>
+    </message>
+    <message>
+        <source>%1, so %2 × %3 = %4.</source>
+        <translation>%1, so %2 × %3 = %4.</translation>
+    </message>
+</context>
+<context>
+    <name>HowManyBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>your answer</translation>
+    </message>
+    <message>
+        <source>Write the number in place-value columns to help you count.</source>
+        <translation>Write the number in place-value columns to help you count.</translation>
+    </message>
+</context>
+<context>
     <name>HundredSquare</name>
     <message>
         <source>a hundred square with %1 small squares shaded</source>
@@ -1616,6 +1834,118 @@ Partitude looks for its pictures in the folder:
     <message>
         <source>Column heads: units, tenths, hundredths, thousandths</source>
         <translation>Column heads: units, tenths, hundredths, thousandths</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceValueTable</name>
+    <message>
+        <source>no number yet</source>
+        <translation>no number yet</translation>
+    </message>
+    <message>
+        <source>the number %1</source>
+        <translation>the number %1</translation>
+    </message>
+    <message>
+        <source>%1 in place-value columns: %2</source>
+        <translation>%1 in place-value columns: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message numerus="yes">
+        <source>%n ten</source>
+        <translation>
+            <numerusform>%n ten</numerusform>
+            <numerusform>%n tens</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tens</source>
+        <translation>
+            <numerusform>%n ten</numerusform>
+            <numerusform>%n tens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>tens</source>
+        <translation>tens</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n one</source>
+        <translation>
+            <numerusform>%n one</numerusform>
+            <numerusform>%n ones</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ones</source>
+        <translation>
+            <numerusform>%n one</numerusform>
+            <numerusform>%n ones</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ones</source>
+        <translation>ones</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tenth</source>
+        <translation>
+            <numerusform>%n tenth</numerusform>
+            <numerusform>%n tenths</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tenths</source>
+        <translation>
+            <numerusform>%n tenth</numerusform>
+            <numerusform>%n tenths</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>tenths</source>
+        <translation>tenths</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hundredth</source>
+        <translation>
+            <numerusform>%n hundredth</numerusform>
+            <numerusform>%n hundredths</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hundredths</source>
+        <translation>
+            <numerusform>%n hundredth</numerusform>
+            <numerusform>%n hundredths</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>hundredths</source>
+        <translation>hundredths</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n thousandth</source>
+        <translation>
+            <numerusform>%n thousandth</numerusform>
+            <numerusform>%n thousandths</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n thousandths</source>
+        <translation>
+            <numerusform>%n thousandth</numerusform>
+            <numerusform>%n thousandths</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>thousandths</source>
+        <translation>thousandths</translation>
+    </message>
+    <message>
+        <source>%1 point %2</source>
+        <translation>%1 point %2</translation>
     </message>
 </context>
 <context>

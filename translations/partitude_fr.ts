@@ -171,6 +171,100 @@
     </message>
 </context>
 <context>
+    <name>Amounts</name>
+    <message>
+        <source>%1 kg</source>
+        <translation>%1 kg</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>£%1</source>
+        <translation>%1 £</translation>
+    </message>
+    <message>
+        <source>What is %1 of %2?</source>
+        <translation>Combien font %1 de %2 ?</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is %3.</source>
+        <translation>%1 de %2, c&apos;est %3.</translation>
+    </message>
+    <message>
+        <source>Type your answer in the box first!</source>
+        <translation>Tape d&apos;abord ta réponse dans la case !</translation>
+    </message>
+    <message>
+        <source>0 is not the answer: every amount here is more than 0.</source>
+        <translation>0 n&apos;est pas la réponse : ici, chaque quantité est plus grande que 0.</translation>
+    </message>
+    <message>
+        <source>Write your number without a 0 in front.</source>
+        <translation>Écris ton nombre sans 0 devant.</translation>
+    </message>
+    <message>
+        <source>That number is too long.</source>
+        <translation>Ce nombre est trop long.</translation>
+    </message>
+    <message>
+        <source>To find %1 of %2, divide by %3: %2 ÷ %3 = %4.</source>
+        <translation>Pour trouver %1 de %2, divise par %3 : %2 ÷ %3 = %4.</translation>
+    </message>
+    <message>
+        <source>1/%1 of %2 is %2 ÷ %1 = %3, so %4 of %2 is %3 × %5 = %6.</source>
+        <translation>1/%1 de %2, c&apos;est %2 ÷ %1 = %3, donc %4 de %2, c&apos;est %3 × %5 = %6.</translation>
+    </message>
+    <message>
+        <source>1% is one hundredth: %1 ÷ 100 = %2.</source>
+        <translation>1 % est un centième : %1 ÷ 100 = %2.</translation>
+    </message>
+    <message>
+        <source>10% is one tenth: %1 ÷ 10 = %2. 5% is half of 10%: %2 ÷ 2 = %3.</source>
+        <translation>10 % est un dixième : %1 ÷ 10 = %2. 5 % est la moitié de 10 % : %2 ÷ 2 = %3.</translation>
+    </message>
+    <message>
+        <source>10% is one tenth: %1 ÷ 10 = %2.</source>
+        <translation>10 % est un dixième : %1 ÷ 10 = %2.</translation>
+    </message>
+    <message>
+        <source>15% is 10% and 5%. 10% of %1 is %2 and 5% is half of that, %3: %2 + %3 = %4.</source>
+        <translation>15 %, c&apos;est 10 % et 5 %. 10 % de %1, c&apos;est %2 et 5 % en est la moitié, %3 : %2 + %3 = %4.</translation>
+    </message>
+    <message>
+        <source>10% is one tenth: %1 ÷ 10 = %2. 20% is two lots of 10%: %2 × 2 = %3.</source>
+        <translation>10 % est un dixième : %1 ÷ 10 = %2. 20 %, c&apos;est deux fois 10 % : %2 × 2 = %3.</translation>
+    </message>
+    <message>
+        <source>25% is one quarter: %1 ÷ 4 = %2.</source>
+        <translation>25 % est un quart : %1 ÷ 4 = %2.</translation>
+    </message>
+    <message>
+        <source>50% is one half: %1 ÷ 2 = %2.</source>
+        <translation>50 % est une moitié : %1 ÷ 2 = %2.</translation>
+    </message>
+    <message>
+        <source>75% is three quarters: %1 ÷ 4 = %2, and %2 × 3 = %3.</source>
+        <translation>75 % font trois quarts : %1 ÷ 4 = %2, et %2 × 3 = %3.</translation>
+    </message>
+</context>
+<context>
+    <name>AmountsBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>ta réponse</translation>
+    </message>
+    <message>
+        <source>your answer, in %1</source>
+        <translation>ta réponse, en %1</translation>
+    </message>
+    <message>
+        <source>Find each amount. 10% is one tenth; 25% is one quarter.</source>
+        <translation>Trouve chaque quantité. 10 % est un dixième ; 25 % est un quart.</translation>
+    </message>
+</context>
+<context>
     <name>ArrowLabel</name>
     <message>
         <source>an arrow pointing down</source>
@@ -398,6 +492,40 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <message>
         <source>%1 and %2</source>
         <translation>%1 et %2</translation>
+    </message>
+</context>
+<context>
+    <name>Digits</name>
+    <message>
+        <source>What is the value of the %1?</source>
+        <translation>Quelle est la valeur du %1 ?</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>The %1 in %2 is %3.</source>
+        <translation>Le %1 de %2 vaut %3.</translation>
+    </message>
+    <message>
+        <source>Choose a card first!</source>
+        <translation>Choisis d&apos;abord une carte !</translation>
+    </message>
+    <message>
+        <source>Look at %1 in its place-value columns: the head of the column the %2 stands in names its value.</source>
+        <translation>Regarde %1 dans le tableau de numération : le titre de la colonne où se trouve le %2 donne sa valeur.</translation>
+    </message>
+</context>
+<context>
+    <name>DigitsBoard</name>
+    <message>
+        <source>Write the value of the digit: 3 tenths (0.3).</source>
+        <translation>Écris la valeur du chiffre : 3 dixièmes (0.3).</translation>
+    </message>
+    <message>
+        <source>What is the value of the %1 in %2?</source>
+        <translation>Quelle est la valeur du %1 dans %2 ?</translation>
     </message>
 </context>
 <context>
@@ -1135,6 +1263,96 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
 </context>
 <context>
+    <name>HowMany</name>
+    <message>
+        <source>each one is 10 tenths</source>
+        <translation>chaque unité vaut 10 dixièmes</translation>
+    </message>
+    <message>
+        <source>each one is 100 hundredths</source>
+        <translation>chaque unité vaut 100 centièmes</translation>
+    </message>
+    <message>
+        <source>each one is 1000 thousandths</source>
+        <translation>chaque unité vaut 1000 millièmes</translation>
+    </message>
+    <message>
+        <source>each tenth is 10 hundredths</source>
+        <translation>chaque dixième vaut 10 centièmes</translation>
+    </message>
+    <message>
+        <source>each tenth is 100 thousandths</source>
+        <translation>chaque dixième vaut 100 millièmes</translation>
+    </message>
+    <message>
+        <source>each hundredth is 10 thousandths</source>
+        <translation>chaque centième vaut 10 millièmes</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>How many tenths are there in %1?</source>
+        <translation>Combien y a-t-il de dixièmes dans %1 ?</translation>
+    </message>
+    <message>
+        <source>How many hundredths are there in %1?</source>
+        <translation>Combien y a-t-il de centièmes dans %1 ?</translation>
+    </message>
+    <message>
+        <source>How many thousandths are there in %1?</source>
+        <translation>Combien y a-t-il de millièmes dans %1 ?</translation>
+    </message>
+    <message>
+        <source>%1 is %2.</source>
+        <translation>%1, c&apos;est %2.</translation>
+    </message>
+    <message>
+        <source>Type your answer in the box first!</source>
+        <translation>Tape d&apos;abord ta réponse dans la case !</translation>
+    </message>
+    <message>
+        <source>0 is not the answer: look at the number again.</source>
+        <translation>0 n&apos;est pas la réponse : regarde encore le nombre.</translation>
+    </message>
+    <message>
+        <source>Write your number without a 0 in front.</source>
+        <translation>Écris ton nombre sans 0 devant.</translation>
+    </message>
+    <message>
+        <source>That number is too long.</source>
+        <translation>Ce nombre est trop long.</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not %3: %3 is only the digit in the %4 column.</source>
+        <translation>%1, c&apos;est %2, pas %3 : %3 n&apos;est que le chiffre de la colonne des %4.</translation>
+    </message>
+    <message>
+        <source>%1, so %2 = %3.</source>
+        <translation>%1, donc %2 = %3.</translation>
+    </message>
+    <message>
+        <source>%1, so %2 × %3 = %4.</source>
+        <translation>%1, donc %2 × %3 = %4.</translation>
+    </message>
+</context>
+<context>
+    <name>HowManyBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>ta réponse</translation>
+    </message>
+    <message>
+        <source>Write the number in place-value columns to help you count.</source>
+        <translation>Écris le nombre dans un tableau de numération pour t&apos;aider à compter.</translation>
+    </message>
+</context>
+<context>
     <name>HundredSquare</name>
     <message>
         <source>a hundred square with %1 small squares shaded</source>
@@ -1616,6 +1834,118 @@ Partitude cherche ses images dans le dossier&#xa0;:
     <message>
         <source>Column heads: units, tenths, hundredths, thousandths</source>
         <translation>Titres des colonnes&#xa0;: unités, dixièmes, centièmes, millièmes</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceValueTable</name>
+    <message>
+        <source>no number yet</source>
+        <translation>pas encore de nombre</translation>
+    </message>
+    <message>
+        <source>the number %1</source>
+        <translation>le nombre %1</translation>
+    </message>
+    <message>
+        <source>%1 in place-value columns: %2</source>
+        <translation>%1 dans le tableau de numération : %2</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message numerus="yes">
+        <source>%n ten</source>
+        <translation>
+            <numerusform>%n dizaine</numerusform>
+            <numerusform>%n dizaines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tens</source>
+        <translation>
+            <numerusform>%n dizaine</numerusform>
+            <numerusform>%n dizaines</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>tens</source>
+        <translation>dizaines</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n one</source>
+        <translation>
+            <numerusform>%n unité</numerusform>
+            <numerusform>%n unités</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ones</source>
+        <translation>
+            <numerusform>%n unité</numerusform>
+            <numerusform>%n unités</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ones</source>
+        <translation>unités</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tenth</source>
+        <translation>
+            <numerusform>%n dixième</numerusform>
+            <numerusform>%n dixièmes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tenths</source>
+        <translation>
+            <numerusform>%n dixième</numerusform>
+            <numerusform>%n dixièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>tenths</source>
+        <translation>dixièmes</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hundredth</source>
+        <translation>
+            <numerusform>%n centième</numerusform>
+            <numerusform>%n centièmes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hundredths</source>
+        <translation>
+            <numerusform>%n centième</numerusform>
+            <numerusform>%n centièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>hundredths</source>
+        <translation>centièmes</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n thousandth</source>
+        <translation>
+            <numerusform>%n millième</numerusform>
+            <numerusform>%n millièmes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n thousandths</source>
+        <translation>
+            <numerusform>%n millième</numerusform>
+            <numerusform>%n millièmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>thousandths</source>
+        <translation>millièmes</translation>
+    </message>
+    <message>
+        <source>%1 point %2</source>
+        <translation>%1 virgule %2</translation>
     </message>
 </context>
 <context>

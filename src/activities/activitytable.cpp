@@ -7,6 +7,10 @@
 #include "activities/equivalent/chainboard.h"
 #include "activities/equivalent/y5fract2.h"
 #include "activities/equivalent/y5fract3.h"
+#include "activities/amounts/amountsboard.h"
+#include "activities/amounts/y6fract5.h"
+#include "activities/digits/digitsboard.h"
+#include "activities/digits/y6fract6.h"
 #include "activities/halves/y2fractions.h"
 #include "activities/halvesnumbers/picturesboard.h"
 #include "activities/halvesnumbers/y2fractions3.h"
@@ -15,6 +19,8 @@
 #include "activities/comparing/compareboard.h"
 #include "activities/comparing/y4fract5.h"
 #include "activities/mixed/mixedmodes.h"
+#include "activities/howmany/howmanyboard.h"
+#include "activities/howmany/y6fract4.h"
 #include "activities/mixed/y5fract4.h"
 #include "activities/naming/namingboard.h"
 #include "activities/naming/y3fract2.h"
@@ -82,9 +88,9 @@ const QVector<Row>& all()
         {"y6Intro", "Command2", kBothWays, "y6fract1", kEither, MixedModes::make<MixedModes::kYearSix>, nullptr, MixedModes::sheet<MixedModes::kYearSix>},
         {"y6Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Decimals Between"), "y6fract2", kEither},
         {"y6Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Place In Order"), "Y6fract3", kEither, make<Y6fract3>, "y6fracprint3"},
-        {"y6Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "How Many?"), "y6fract4", kEither},
-        {"y6Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Finding Amounts"), "y6fract5", kEither},
-        {"y6Intro", "Command7", QT_TRANSLATE_NOOP("Activities", "Digits"), "y6fract6", kEither},
+        {"y6Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "How Many?"), "y6fract4", kEither, make<y6fract4>, nullptr, HowManyBoard::worksheet},
+        {"y6Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Finding Amounts"), "y6fract5", kEither, make<y6fract5>, nullptr, AmountsBoard::worksheet},
+        {"y6Intro", "Command7", QT_TRANSLATE_NOOP("Activities", "Digits"), "y6fract6", kEither, make<y6fract6>, nullptr, DigitsBoard::worksheet},
         {"y6Intro", "Command8", QT_TRANSLATE_NOOP("Activities", "Rounding"), "y6fract7", kEither},
     };
     return rows;

@@ -1,5 +1,7 @@
 #include "placevalue.h"
 
+#include "kit/parts/placevaluedrawing.h"
+
 #include <QPainter>
 
 namespace PlaceValue {
@@ -37,29 +39,14 @@ PlaceValueHeads::PlaceValueHeads(QWidget* parent, const QString& name)
 
 void PlaceValueHeads::paintEvent(QPaintEvent*)
 {
-    // Each head in a rounded box; the fractions stacked, a line between.
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double pitch = width() / double(PlaceValue::kColumns);
-    for (int c = 0; c < PlaceValue::kColumns; ++c) {
-        const QRectF box(c * pitch + 3, 2, pitch - 6, height() - 4);
-        painter.setPen(QPen(Qt::white, 1.5));
-        painter.setBrush(QColor(255, 255, 255, 40));
-        painter.drawRoundedRect(box, 8, 8);
-        painter.setFont(font());
-        const QStringList parts = kHeads[c].split(QLatin1Char('/'));
-        if (parts.size() == 1) {
-            painter.drawText(box, Qt::AlignCenter, tr(qPrintable(kHeads[c])));
-            continue;
-        }
-        const QFontMetricsF metrics(font());
-        const double barWidth = metrics.horizontalAdvance(parts[1]) + 6;
-        const double mid = box.center().y();
-        painter.drawText(QRectF(box.left(), mid - metrics.height() - 1, box.width(), metrics.height()),
-                         Qt::AlignCenter, parts[0]);
-        painter.drawLine(QPointF(box.center().x() - barWidth / 2, mid), QPointF(box.center().x() + barWidth / 2, mid));
-        painter.drawText(QRectF(box.left(), mid + 1, box.width(), metrics.height()), Qt::AlignCenter, parts[1]);
-    }
+    QStringList heads = kHeads;
+    heads[0] = tr(qPrintable(kHeads[0]));
+    PlaceValueDrawing::HeadsLook look;
+    look.ink = Qt::white;
+    look.fill = QColor(255, 255, 255, 40);
+    PlaceValueDrawing::paintHeads(painter, QRectF(rect()), heads, font(), look);
 }
 
 PlaceValueRow::PlaceValueRow(QWidget* parent, const QString& name, const QString& spaced)
@@ -75,13 +62,9 @@ void PlaceValueRow::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.setFont(font());
-    painter.setPen(palette().color(QPalette::WindowText));
-    const QStringList digits = PlaceValue::columnDigits(text());
-    const double pitch = width() / double(PlaceValue::kColumns);
-    for (int c = 0; c < digits.size() && c < PlaceValue::kColumns; ++c) {
-        const double centre = PlaceValue::columnCentre(c, width());
-        painter.drawText(QRectF(centre - pitch / 2, 0, pitch, height()), Qt::AlignCenter, digits[c]);
-    }
-    if (text().contains(QLatin1Char('.')))
-        painter.drawText(QRectF(pitch - pitch / 4, 0, pitch / 2, height()), Qt::AlignCenter, QStringLiteral("."));
+    PlaceValueDrawing::DigitsLook look;
+    look.ink = palette().color(QPalette::WindowText);
+    look.columns = PlaceValue::kColumns;
+    look.pointAfter = text().contains(QLatin1Char('.')) ? 0 : -1;
+    PlaceValueDrawing::paintDigits(painter, QRectF(rect()), PlaceValue::columnDigits(text()), look);
 }

@@ -4,6 +4,7 @@
 #include "fractions/fraction.h"
 #include "runtime/twips.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QShortcut>
 
@@ -69,6 +70,17 @@ void ChoiceCards::setCards(const QStringList& texts, const QStringList& keys, co
         card->show();
     }
     updateKeys();
+}
+
+void ChoiceCards::setColumns(int columns)
+{
+    columns = std::clamp(columns, 1, int(kMostCards));
+    delete layout();
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(Twips::toPixels(kCardGap));
+    for (int i = 0; i < kMostCards; ++i)
+        grid->addWidget(m_cards[i], i / columns, i % columns);
 }
 
 ChoiceCard* ChoiceCards::card(int index) const

@@ -26,6 +26,10 @@ public:
     int count() const { return m_count; }
     ChoiceCard* card(int index) const;
 
+    // How many cards stand side by side; the others wrap onto rows below
+    // (two by two for long words on a narrow board). All in one row unless set.
+    void setColumns(int columns);
+
     // When not choosable, neither clicks nor keys choose a card.
     void setChoosable(bool on);
     bool isChoosable() const { return m_choosable; }

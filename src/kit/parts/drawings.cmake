@@ -6,4 +6,6 @@ target_sources(partitude_lib PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/barmodel.cpp ${CMAKE_CURRENT_LIST_DIR}/barmodel.h
   ${CMAKE_CURRENT_LIST_DIR}/fractionwall.cpp ${CMAKE_CURRENT_LIST_DIR}/fractionwall.h
   ${CMAKE_CURRENT_LIST_DIR}/numberline.cpp ${CMAKE_CURRENT_LIST_DIR}/numberline.h
+  ${CMAKE_CURRENT_LIST_DIR}/placevaluedrawing.cpp ${CMAKE_CURRENT_LIST_DIR}/placevaluedrawing.h
+  ${CMAKE_CURRENT_LIST_DIR}/placevaluetable.cpp ${CMAKE_CURRENT_LIST_DIR}/placevaluetable.h
 )
