@@ -293,6 +293,52 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
 </context>
 <context>
+    <name>FractionOf</name>
+    <message>
+        <source>What is %1 of %2?</source>
+        <translation>Combien font %1 de %2 ?</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is %3.</source>
+        <translation>%1 de %2, c&apos;est %3.</translation>
+    </message>
+    <message>
+        <source>Type your answer in the box first!</source>
+        <translation>Écris d&apos;abord ta réponse dans la case !</translation>
+    </message>
+    <message>
+        <source>0 is not the answer: look at the bar again.</source>
+        <translation>0 n&apos;est pas la réponse : regarde encore la barre.</translation>
+    </message>
+    <message>
+        <source>To find %1 of %2, share %2 into %3 equal boxes: %2 ÷ %3 = %4.</source>
+        <translation>Pour trouver %1 de %2, partage %2 en %3 cases égales : %2 ÷ %3 = %4.</translation>
+    </message>
+    <message>
+        <source>First %1 of %2: %2 ÷ %3 = %4. Then %5 is %6 lots of %4: %7.</source>
+        <translation>D&apos;abord %1 de %2 : %2 ÷ %3 = %4. Puis %5, c&apos;est %6 fois %4 : %7.</translation>
+    </message>
+</context>
+<context>
+    <name>FractionOfBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>ta réponse</translation>
+    </message>
+    <message>
+        <source>your answer: %1</source>
+        <translation>ta réponse : %1</translation>
+    </message>
+    <message>
+        <source>Share the number equally into the boxes of the bar, then count the boxes asked for.</source>
+        <translation>Partage le nombre également dans les cases de la barre, puis compte les cases demandées.</translation>
+    </message>
+</context>
+<context>
     <name>FractionWall</name>
     <message>
         <source>1 whole</source>
@@ -1086,6 +1132,64 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     <message>
         <source>--scale %1 is too large for this display (%2 x %3): a screen would not fit on it.</source>
         <translation>--scale %1 est trop grand pour cet affichage (%2 x %3)&#xa0;: un écran n&apos;y tiendrait pas.</translation>
+    </message>
+</context>
+<context>
+    <name>PartsOfSet</name>
+    <message>
+        <source>Click on %1 of the %2.</source>
+        <translation>Clique sur %1 des %2.</translation>
+    </message>
+    <message>
+        <source>You chose %1 of the %2.</source>
+        <translation>Tu as choisi %1 des %2.</translation>
+    </message>
+    <message>
+        <source>Ring %1 of the %2.</source>
+        <translation>Entoure %1 des %2.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 %3</source>
+        <translation>%1 des %2 %3</translation>
+    </message>
+    <message>
+        <source>You must choose some pictures!</source>
+        <translation>Tu dois choisir des images !</translation>
+    </message>
+    <message>
+        <source>%1 %2 in %3 equal groups is %4 in each group.</source>
+        <translation>%1 %2 en %3 groupes égaux, c&apos;est %4 dans chaque groupe.</translation>
+    </message>
+    <message>
+        <source>%1 is 1 group: %2 %3.</source>
+        <translation>%1, c&apos;est 1 groupe : %2 %3.</translation>
+    </message>
+    <message>
+        <source>%1 is %4 groups: %2 %3.</source>
+        <translation>%1, c&apos;est %4 groupes : %2 %3.</translation>
+    </message>
+    <message>
+        <source>You have not chosen any yet.</source>
+        <translation>Tu n&apos;en as encore choisi aucune.</translation>
+    </message>
+    <message>
+        <source>You have chosen %1: that is not enough yet.</source>
+        <translation>Tu en as choisi %1 : ce n&apos;est pas encore assez.</translation>
+    </message>
+    <message>
+        <source>You have chosen %1: that is too many.</source>
+        <translation>Tu en as choisi %1 : c&apos;est trop.</translation>
+    </message>
+    <message>
+        <source>You have chosen %1: that is just right!</source>
+        <translation>Tu en as choisi %1 : c&apos;est exactement ça !</translation>
+    </message>
+</context>
+<context>
+    <name>PartsOfSetBoard</name>
+    <message>
+        <source>Share the pictures into equal groups, then ring the ones asked for.</source>
+        <translation>Partage les images en groupes égaux, puis entoure celles qui sont demandées.</translation>
     </message>
 </context>
 <context>
