@@ -334,8 +334,8 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
         <translation>your answer: %1</translation>
     </message>
     <message>
-        <source>Share the number equally into the boxes of the bar, then count the boxes asked for.</source>
-        <translation>Share the number equally into the boxes of the bar, then count the boxes asked for.</translation>
+        <source>Share the number into the equal boxes of the bar.</source>
+        <translation>Share the number into the equal boxes of the bar.</translation>
     </message>
 </context>
 <context>

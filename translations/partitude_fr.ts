@@ -296,7 +296,7 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     <name>FractionOf</name>
     <message>
         <source>What is %1 of %2?</source>
-        <translation>Combien font %1 de %2 ?</translation>
+        <translation>Combien font %1 de %2&#xa0;?</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -308,19 +308,19 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>Type your answer in the box first!</source>
-        <translation>Écris d&apos;abord ta réponse dans la case !</translation>
+        <translation>Écris d&apos;abord ta réponse dans la case&#xa0;!</translation>
     </message>
     <message>
         <source>0 is not the answer: look at the bar again.</source>
-        <translation>0 n&apos;est pas la réponse : regarde encore la barre.</translation>
+        <translation>0 n&apos;est pas la réponse&#xa0;: regarde encore la barre.</translation>
     </message>
     <message>
         <source>To find %1 of %2, share %2 into %3 equal boxes: %2 ÷ %3 = %4.</source>
-        <translation>Pour trouver %1 de %2, partage %2 en %3 cases égales : %2 ÷ %3 = %4.</translation>
+        <translation>Pour trouver %1 de %2, partage %2 en %3 cases égales&#xa0;: %2 ÷ %3 = %4.</translation>
     </message>
     <message>
         <source>First %1 of %2: %2 ÷ %3 = %4. Then %5 is %6 lots of %4: %7.</source>
-        <translation>D&apos;abord %1 de %2 : %2 ÷ %3 = %4. Puis %5, c&apos;est %6 fois %4 : %7.</translation>
+        <translation>D&apos;abord %1 de %2&#xa0;: %2 ÷ %3 = %4. Puis %5, c&apos;est %6 fois %4&#xa0;: %7.</translation>
     </message>
 </context>
 <context>
@@ -331,11 +331,11 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>your answer: %1</source>
-        <translation>ta réponse : %1</translation>
+        <translation>ta réponse&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Share the number equally into the boxes of the bar, then count the boxes asked for.</source>
-        <translation>Partage le nombre également dans les cases de la barre, puis compte les cases demandées.</translation>
+        <source>Share the number into the equal boxes of the bar.</source>
+        <translation>Partage le nombre dans les cases égales de la barre.</translation>
     </message>
 </context>
 <context>
@@ -1154,7 +1154,7 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>You must choose some pictures!</source>
-        <translation>Tu dois choisir des images !</translation>
+        <translation>Tu dois choisir des images&#xa0;!</translation>
     </message>
     <message>
         <source>%1 %2 in %3 equal groups is %4 in each group.</source>
@@ -1162,11 +1162,11 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>%1 is 1 group: %2 %3.</source>
-        <translation>%1, c&apos;est 1 groupe : %2 %3.</translation>
+        <translation>%1, c&apos;est 1 groupe&#xa0;: %2 %3.</translation>
     </message>
     <message>
         <source>%1 is %4 groups: %2 %3.</source>
-        <translation>%1, c&apos;est %4 groupes : %2 %3.</translation>
+        <translation>%1, c&apos;est %4 groupes&#xa0;: %2 %3.</translation>
     </message>
     <message>
         <source>You have not chosen any yet.</source>
@@ -1174,15 +1174,15 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>You have chosen %1: that is not enough yet.</source>
-        <translation>Tu en as choisi %1 : ce n&apos;est pas encore assez.</translation>
+        <translation>Tu en as choisi %1&#xa0;: ce n&apos;est pas encore assez.</translation>
     </message>
     <message>
         <source>You have chosen %1: that is too many.</source>
-        <translation>Tu en as choisi %1 : c&apos;est trop.</translation>
+        <translation>Tu en as choisi %1&#xa0;: c&apos;est trop.</translation>
     </message>
     <message>
         <source>You have chosen %1: that is just right!</source>
-        <translation>Tu en as choisi %1 : c&apos;est exactement ça !</translation>
+        <translation>Tu en as choisi %1&#xa0;: c&apos;est exactement ça&#xa0;!</translation>
     </message>
 </context>
 <context>

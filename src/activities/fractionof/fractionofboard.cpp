@@ -19,6 +19,7 @@ constexpr double kSheetBar = 380;         // twips
 constexpr double kSheetBarWidth = 4800;   // twips, at most
 constexpr double kSheetAmountPoints = 14; // the amount's size on paper
 constexpr double kTwipsPerPoint = 20;
+constexpr double kSheetTextFill = 0.8; // of the amount's band
 } // namespace
 
 FractionOfBoard::FractionOfBoard(const FractionOf::Ranges& ranges, QWidget* parent)
@@ -97,7 +98,7 @@ Worksheets::Sheet FractionOfBoard::sheet(const FractionOf::Ranges& ranges, const
     return Worksheets::drawSheet<FractionOf::Question>(
         title,
         QCoreApplication::translate("FractionOfBoard",
-                                    "Share the number equally into the boxes of the bar, then count the boxes asked for."),
+                                    "Share the number into the equal boxes of the bar."),
         [&rnd, &ranges](const FractionOf::Question* last) { return FractionOf::draw(ranges, rnd, last); },
         [](const FractionOf::Question& q) {
             Worksheets::Row row;
@@ -105,13 +106,18 @@ Worksheets::Sheet FractionOfBoard::sheet(const FractionOf::Ranges& ranges, const
             row.answer = QString::number(q.answer());
             row.pictureHeight = kSheetAmount + kSheetBar;
             row.picture = [q](QPainter& painter, const QRectF& box) {
+                // The amount over the bar, in the same shares as asked for,
+                // however much room the card gives.
+                const double amountHeight = box.height() * kSheetAmount / (kSheetAmount + kSheetBar);
                 const double width = std::min(box.width(), kSheetBarWidth);
-                const QRectF bar(box.left() + (box.width() - width) / 2, box.top() + kSheetAmount, width, kSheetBar);
+                const QRectF bar(box.left() + (box.width() - width) / 2, box.top() + amountHeight, width,
+                                 box.height() - amountHeight);
+                // The painter counts in twips, so the size is given in them.
                 QFont font = painter.font();
-                font.setPointSizeF(kSheetAmountPoints * kTwipsPerPoint);
+                font.setPixelSize(int(std::min(kSheetAmountPoints * kTwipsPerPoint, amountHeight * kSheetTextFill)));
                 font.setBold(true);
                 painter.setFont(font);
-                painter.drawText(QRectF(bar.left(), box.top(), width, kSheetAmount), Qt::AlignCenter,
+                painter.drawText(QRectF(bar.left(), box.top(), width, amountHeight), Qt::AlignCenter,
                                  QString::number(q.amount));
                 painter.drawRect(bar);
                 for (int i = 1; i < q.bottom; ++i) {
