@@ -1158,7 +1158,7 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>%1 %2 in %3 equal groups is %4 in each group.</source>
-        <translation>%1 %2 en %3 groupes égaux, c&apos;est %4 dans chaque groupe.</translation>
+        <translation>%1 %2 en %3 groupes égaux&#xa0;: %4 par groupe.</translation>
     </message>
     <message>
         <source>%1 is 1 group: %2 %3.</source>
