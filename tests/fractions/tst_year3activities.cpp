@@ -9,6 +9,22 @@
 #include <QSet>
 #include <QtTest>
 
+// A question, the answer given, and what the check makes of it.
+struct SetRow {
+    PartsOfSet::Question question;
+    int chosen;
+    Verdict::Kind verdict;
+    const char* statement;
+};
+struct NumberRow {
+    FractionOf::Question question;
+    const char* typed;
+    Verdict::Kind verdict;
+    const char* statement;
+};
+Q_DECLARE_METATYPE(SetRow)
+Q_DECLARE_METATYPE(NumberRow)
+
 class TestYear3Activities : public QObject {
     Q_OBJECT
 private slots:
@@ -53,31 +69,20 @@ void TestYear3Activities::setDraws()
 
 void TestYear3Activities::setVerdicts_data()
 {
-    QTest::addColumn<int>("top");
-    QTest::addColumn<int>("bottom");
-    QTest::addColumn<int>("howmany");
-    QTest::addColumn<int>("chosen");
-    QTest::addColumn<int>("verdict");
-    QTest::addColumn<QString>("statement");
-    QTest::newRow("2/3 of 12 right") << 2 << 3 << 12 << 8 << int(Verdict::Right) << "You chose two thirds of the ducks.";
-    QTest::newRow("one third for two") << 2 << 3 << 12 << 4 << int(Verdict::Wrong) << "You should have clicked on 8 pictures";
-    QTest::newRow("1/10 of 10: one") << 1 << 10 << 10 << 2 << int(Verdict::Wrong) << "You should have clicked on 1 picture";
-    QTest::newRow("9/10 of 20 right") << 9 << 10 << 20 << 18 << int(Verdict::Right) << "You chose nine tenths of the ducks.";
-    QTest::newRow("none") << 1 << 2 << 4 << 0 << int(Verdict::NotCheckable) << "You must choose some pictures!";
+    QTest::addColumn<SetRow>("row");
+    QTest::newRow("2/3 of 12 right") << SetRow{{2, 3, 12, 2}, 8, Verdict::Right, "You chose two thirds of the ducks."};
+    QTest::newRow("one third for two") << SetRow{{2, 3, 12, 2}, 4, Verdict::Wrong, "You should have clicked on 8 pictures"};
+    QTest::newRow("1/10 of 10: one") << SetRow{{1, 10, 10, 2}, 2, Verdict::Wrong, "You should have clicked on 1 picture"};
+    QTest::newRow("9/10 of 20 right") << SetRow{{9, 10, 20, 2}, 18, Verdict::Right, "You chose nine tenths of the ducks."};
+    QTest::newRow("none") << SetRow{{1, 2, 4, 2}, 0, Verdict::NotCheckable, "You must choose some pictures!"};
 }
 
 void TestYear3Activities::setVerdicts()
 {
-    QFETCH(int, top);
-    QFETCH(int, bottom);
-    QFETCH(int, howmany);
-    QFETCH(int, chosen);
-    QFETCH(int, verdict);
-    QFETCH(QString, statement);
-    const PartsOfSet::Question q{top, bottom, howmany, 2};
-    const Verdict v = PartsOfSet::check(q, chosen);
-    QCOMPARE(int(v.kind), verdict);
-    QCOMPARE(v.statement, statement);
+    QFETCH(SetRow, row);
+    const Verdict v = PartsOfSet::check(row.question, row.chosen);
+    QCOMPARE(v.kind, row.verdict);
+    QCOMPARE(v.statement, QString::fromUtf8(row.statement));
 }
 
 void TestYear3Activities::numberDraws_data()
@@ -126,32 +131,21 @@ void TestYear3Activities::numberDraws()
 
 void TestYear3Activities::numberVerdicts_data()
 {
-    QTest::addColumn<int>("top");
-    QTest::addColumn<int>("bottom");
-    QTest::addColumn<int>("amount");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<int>("verdict");
-    QTest::addColumn<QString>("statement");
-    QTest::newRow("right") << 2 << 3 << 12 << "8" << int(Verdict::Right) << "2/3 of 12 is 8.";
-    QTest::newRow("leading zero") << 3 << 5 << 40 << "024" << int(Verdict::Right) << "3/5 of 40 is 24.";
-    QTest::newRow("one third, not two") << 2 << 3 << 12 << "4" << int(Verdict::Wrong) << "2/3 of 12 is 8.";
-    QTest::newRow("the amount") << 7 << 12 << 144 << "144" << int(Verdict::Wrong) << "7/12 of 144 is 84.";
-    QTest::newRow("empty") << 1 << 2 << 4 << "" << int(Verdict::NotCheckable) << "Type your answer in the box first!";
-    QTest::newRow("zero") << 1 << 2 << 4 << "00" << int(Verdict::NotCheckable)
-                          << "0 is not the answer: look at the bar again.";
+    QTest::addColumn<NumberRow>("row");
+    QTest::newRow("right") << NumberRow{{2, 3, 12}, "8", Verdict::Right, "2/3 of 12 is 8."};
+    QTest::newRow("leading zero") << NumberRow{{3, 5, 40}, "024", Verdict::Right, "3/5 of 40 is 24."};
+    QTest::newRow("one third, not two") << NumberRow{{2, 3, 12}, "4", Verdict::Wrong, "2/3 of 12 is 8."};
+    QTest::newRow("the amount") << NumberRow{{7, 12, 144}, "144", Verdict::Wrong, "7/12 of 144 is 84."};
+    QTest::newRow("empty") << NumberRow{{1, 2, 4}, "", Verdict::NotCheckable, "Type your answer in the box first!"};
+    QTest::newRow("zero") << NumberRow{{1, 2, 4}, "00", Verdict::NotCheckable, "0 is not the answer: look at the bar again."};
 }
 
 void TestYear3Activities::numberVerdicts()
 {
-    QFETCH(int, top);
-    QFETCH(int, bottom);
-    QFETCH(int, amount);
-    QFETCH(QString, typed);
-    QFETCH(int, verdict);
-    QFETCH(QString, statement);
-    const Verdict v = FractionOf::check({top, bottom, amount}, typed);
-    QCOMPARE(int(v.kind), verdict);
-    QCOMPARE(v.statement, statement);
+    QFETCH(NumberRow, row);
+    const Verdict v = FractionOf::check(row.question, QString::fromLatin1(row.typed));
+    QCOMPARE(v.kind, row.verdict);
+    QCOMPARE(v.statement, QString::fromUtf8(row.statement));
 }
 
 void TestYear3Activities::hints()
