@@ -65,7 +65,8 @@ QString hint(const Question& q)
     const int each = q.amount / q.bottom;
     const QString unit = QStringLiteral("1/%1").arg(q.bottom);
     if (q.top == 1)
-        return QCoreApplication::translate("FractionOf", "To find %1 of %2, share %2 into %3 equal boxes: %2 ÷ %3 = %4.")
+        return QCoreApplication::translate("FractionOf",
+                                           "To find %1 of %2, share %2 into %3 equal boxes: %2 ÷ %3 = %4.")
             .arg(unit)
             .arg(q.amount)
             .arg(q.bottom)

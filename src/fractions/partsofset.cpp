@@ -72,16 +72,21 @@ Verdict check(const Question& q, int chosen)
 {
     if (chosen == 0)
         return Verdict::notCheckable(QCoreApplication::translate("PartsOfSet", "You must choose some pictures!"));
-    return chosen == q.target() ? Verdict::right(q.rightAnswer()) : Verdict::wrong(Halves::shouldHaveClicked(q.target()));
+    return chosen == q.target() ? Verdict::right(q.rightAnswer())
+                                : Verdict::wrong(Halves::shouldHaveClicked(q.target()));
 }
 
 QString hint(const Question& q)
 {
     const int each = q.howmany / q.bottom;
-    const QString share
-        = QCoreApplication::translate("PartsOfSet", "%1 %2 in %3 equal groups is %4 in each group.").arg(q.howmany).arg(q.picname()).arg(q.bottom).arg(each);
+    const QString share = QCoreApplication::translate("PartsOfSet", "%1 %2 in %3 equal groups is %4 in each group.")
+                              .arg(q.howmany)
+                              .arg(q.picname())
+                              .arg(q.bottom)
+                              .arg(each);
     const QString answerName = q.target() == 1 ? q.onePictureName() : q.picname();
-    QString groups = (q.top == 1 ? QCoreApplication::translate("PartsOfSet", "%1 is 1 group: %2 %3.") : QCoreApplication::translate("PartsOfSet", "%1 is %4 groups: %2 %3."))
+    QString groups = (q.top == 1 ? QCoreApplication::translate("PartsOfSet", "%1 is 1 group: %2 %3.")
+                                 : QCoreApplication::translate("PartsOfSet", "%1 is %4 groups: %2 %3."))
                          .arg(Fractions::capitalised(fractionWords(q)))
                          .arg(q.target())
                          .arg(answerName);

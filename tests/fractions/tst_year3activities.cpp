@@ -70,10 +70,11 @@ void TestYear3Activities::setDraws()
 void TestYear3Activities::setVerdicts_data()
 {
     QTest::addColumn<SetRow>("row");
-    QTest::newRow("2/3 of 12 right") << SetRow{{2, 3, 12, 2}, 8, Verdict::Right, "You chose two thirds of the ducks."};
-    QTest::newRow("one third for two") << SetRow{{2, 3, 12, 2}, 4, Verdict::Wrong, "You should have clicked on 8 pictures"};
-    QTest::newRow("1/10 of 10: one") << SetRow{{1, 10, 10, 2}, 2, Verdict::Wrong, "You should have clicked on 1 picture"};
-    QTest::newRow("9/10 of 20 right") << SetRow{{9, 10, 20, 2}, 18, Verdict::Right, "You chose nine tenths of the ducks."};
+    const PartsOfSet::Question twoThirds{2, 3, 12, 2}, oneTenth{1, 10, 10, 2}, nineTenths{9, 10, 20, 2};
+    QTest::newRow("2/3 of 12 right") << SetRow{twoThirds, 8, Verdict::Right, "You chose two thirds of the ducks."};
+    QTest::newRow("one third for two") << SetRow{twoThirds, 4, Verdict::Wrong, "You should have clicked on 8 pictures"};
+    QTest::newRow("1/10 of 10: one") << SetRow{oneTenth, 2, Verdict::Wrong, "You should have clicked on 1 picture"};
+    QTest::newRow("9/10 of 20 right") << SetRow{nineTenths, 18, Verdict::Right, "You chose nine tenths of the ducks."};
     QTest::newRow("none") << SetRow{{1, 2, 4, 2}, 0, Verdict::NotCheckable, "You must choose some pictures!"};
 }
 
@@ -137,7 +138,8 @@ void TestYear3Activities::numberVerdicts_data()
     QTest::newRow("one third, not two") << NumberRow{{2, 3, 12}, "4", Verdict::Wrong, "2/3 of 12 is 8."};
     QTest::newRow("the amount") << NumberRow{{7, 12, 144}, "144", Verdict::Wrong, "7/12 of 144 is 84."};
     QTest::newRow("empty") << NumberRow{{1, 2, 4}, "", Verdict::NotCheckable, "Type your answer in the box first!"};
-    QTest::newRow("zero") << NumberRow{{1, 2, 4}, "00", Verdict::NotCheckable, "0 is not the answer: look at the bar again."};
+    QTest::newRow("zero") << NumberRow{{1, 2, 4}, "00", Verdict::NotCheckable,
+                                       "0 is not the answer: look at the bar again."};
 }
 
 void TestYear3Activities::numberVerdicts()
@@ -162,7 +164,8 @@ void TestYear3Activities::hints()
     QCOMPARE(PartsOfSet::progress(q, 6), QStringLiteral("You have chosen 6: that is just right!"));
     QCOMPARE(PartsOfSet::progress(q, 7), QStringLiteral("You have chosen 7: that is too many."));
     QCOMPARE(FractionOf::hint({2, 3, 12}), QStringLiteral("First 1/3 of 12: 12 ÷ 3 = 4. Then 2/3 is 2 lots of 4: 8."));
-    QCOMPARE(FractionOf::hint({1, 5, 35}), QStringLiteral("To find 1/5 of 35, share 35 into 5 equal boxes: 35 ÷ 5 = 7."));
+    QCOMPARE(FractionOf::hint({1, 5, 35}),
+             QStringLiteral("To find 1/5 of 35, share 35 into 5 equal boxes: 35 ÷ 5 = 7."));
 }
 
 QTEST_APPLESS_MAIN(TestYear3Activities)

@@ -196,7 +196,8 @@ Worksheets::Sheet PartsOfSetBoard::worksheet(Random::Source& rnd)
 {
     return Worksheets::drawSheet<PartsOfSet::Question>(
         QCoreApplication::translate("Activities", "Halves, Quarters, Thirds and Tenths 1"),
-        QCoreApplication::translate("PartsOfSetBoard", "Share the pictures into equal groups, then ring the ones asked for."),
+        QCoreApplication::translate("PartsOfSetBoard",
+                                    "Share the pictures into equal groups, then ring the ones asked for."),
         [&rnd](const PartsOfSet::Question* last) { return PartsOfSet::draw(rnd, last); },
         [](const PartsOfSet::Question& q) {
             Worksheets::Row row;

@@ -98,8 +98,8 @@ void TestFractionOf::worksheet()
         QSKIP("poppler-utils is not installed");
     KitScreen* form = open(menu, button, screen);
     world.answer = MsgBox::Answer::Yes;
-    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, year == 3 ? FractionOfBoard::year3Sheet : FractionOfBoard::year5Sheet),
-             QString());
+    const auto sheet = year == 3 ? FractionOfBoard::year3Sheet : FractionOfBoard::year5Sheet;
+    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, sheet), QString());
     QCOMPARE(world.messages.size(), 1);
 }
 
