@@ -671,6 +671,52 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
     </message>
 </context>
 <context>
+    <name>FractionOf</name>
+    <message>
+        <source>What is %1 of %2?</source>
+        <translation>What is %1 of %2?</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is %3.</source>
+        <translation>%1 of %2 is %3.</translation>
+    </message>
+    <message>
+        <source>Type your answer in the box first!</source>
+        <translation>Type your answer in the box first!</translation>
+    </message>
+    <message>
+        <source>0 is not the answer: look at the bar again.</source>
+        <translation>0 is not the answer: look at the bar again.</translation>
+    </message>
+    <message>
+        <source>To find %1 of %2, share %2 into %3 equal boxes: %2 ÷ %3 = %4.</source>
+        <translation>To find %1 of %2, share %2 into %3 equal boxes: %2 ÷ %3 = %4.</translation>
+    </message>
+    <message>
+        <source>First %1 of %2: %2 ÷ %3 = %4. Then %5 is %6 lots of %4: %7.</source>
+        <translation>First %1 of %2: %2 ÷ %3 = %4. Then %5 is %6 lots of %4: %7.</translation>
+    </message>
+</context>
+<context>
+    <name>FractionOfBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>your answer</translation>
+    </message>
+    <message>
+        <source>your answer: %1</source>
+        <translation>your answer: %1</translation>
+    </message>
+    <message>
+        <source>Share the number into the equal boxes of the bar.</source>
+        <translation>Share the number into the equal boxes of the bar.</translation>
+    </message>
+</context>
+<context>
     <name>FractionWall</name>
     <message>
         <source>1 whole</source>
@@ -1732,6 +1778,64 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
     <message>
         <source>Find the missing number in each pair of equal fractions.</source>
         <translation>Find the missing number in each pair of equal fractions.</translation>
+    </message>
+</context>
+<context>
+    <name>PartsOfSet</name>
+    <message>
+        <source>Click on %1 of the %2.</source>
+        <translation>Click on %1 of the %2.</translation>
+    </message>
+    <message>
+        <source>You chose %1 of the %2.</source>
+        <translation>You chose %1 of the %2.</translation>
+    </message>
+    <message>
+        <source>Ring %1 of the %2.</source>
+        <translation>Ring %1 of the %2.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 %3</source>
+        <translation>%1 of the %2 %3</translation>
+    </message>
+    <message>
+        <source>You must choose some pictures!</source>
+        <translation>You must choose some pictures!</translation>
+    </message>
+    <message>
+        <source>%1 %2 in %3 equal groups is %4 in each group.</source>
+        <translation>%1 %2 in %3 equal groups is %4 in each group.</translation>
+    </message>
+    <message>
+        <source>%1 is 1 group: %2 %3.</source>
+        <translation>%1 is 1 group: %2 %3.</translation>
+    </message>
+    <message>
+        <source>%1 is %4 groups: %2 %3.</source>
+        <translation>%1 is %4 groups: %2 %3.</translation>
+    </message>
+    <message>
+        <source>You have not chosen any yet.</source>
+        <translation>You have not chosen any yet.</translation>
+    </message>
+    <message>
+        <source>You have chosen %1: that is not enough yet.</source>
+        <translation>You have chosen %1: that is not enough yet.</translation>
+    </message>
+    <message>
+        <source>You have chosen %1: that is too many.</source>
+        <translation>You have chosen %1: that is too many.</translation>
+    </message>
+    <message>
+        <source>You have chosen %1: that is just right!</source>
+        <translation>You have chosen %1: that is just right!</translation>
+    </message>
+</context>
+<context>
+    <name>PartsOfSetBoard</name>
+    <message>
+        <source>Share the pictures into equal groups, then ring the ones asked for.</source>
+        <translation>Share the pictures into equal groups, then ring the ones asked for.</translation>
     </message>
 </context>
 <context>

@@ -186,7 +186,7 @@
     </message>
     <message>
         <source>What is %1 of %2?</source>
-        <translation>Combien font %1 de %2 ?</translation>
+        <translation>Combien font %1 de %2&#xa0;?</translation>
     </message>
     <message>
         <source>%1 of %2 is %3.</source>
@@ -194,11 +194,11 @@
     </message>
     <message>
         <source>Type your answer in the box first!</source>
-        <translation>Tape d&apos;abord ta réponse dans la case !</translation>
+        <translation>Tape d&apos;abord ta réponse dans la case&#xa0;!</translation>
     </message>
     <message>
         <source>0 is not the answer: every amount here is more than 0.</source>
-        <translation>0 n&apos;est pas la réponse : ici, chaque quantité est plus grande que 0.</translation>
+        <translation>0 n&apos;est pas la réponse&#xa0;: ici, chaque quantité est plus grande que 0.</translation>
     </message>
     <message>
         <source>Write your number without a 0 in front.</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>To find %1 of %2, divide by %3: %2 ÷ %3 = %4.</source>
-        <translation>Pour trouver %1 de %2, divise par %3 : %2 ÷ %3 = %4.</translation>
+        <translation>Pour trouver %1 de %2, divise par %3&#xa0;: %2 ÷ %3 = %4.</translation>
     </message>
     <message>
         <source>1/%1 of %2 is %2 ÷ %1 = %3, so %4 of %2 is %3 × %5 = %6.</source>
@@ -218,35 +218,35 @@
     </message>
     <message>
         <source>1% is one hundredth: %1 ÷ 100 = %2.</source>
-        <translation>1 % est un centième : %1 ÷ 100 = %2.</translation>
+        <translation>1&#xa0;% est un centième&#xa0;: %1 ÷ 100 = %2.</translation>
     </message>
     <message>
         <source>10% is one tenth: %1 ÷ 10 = %2. 5% is half of 10%: %2 ÷ 2 = %3.</source>
-        <translation>10 % est un dixième : %1 ÷ 10 = %2. 5 % est la moitié de 10 % : %2 ÷ 2 = %3.</translation>
+        <translation>10&#xa0;% est un dixième&#xa0;: %1 ÷ 10 = %2. 5&#xa0;% est la moitié de 10&#xa0;%&#xa0;: %2 ÷ 2 = %3.</translation>
     </message>
     <message>
         <source>10% is one tenth: %1 ÷ 10 = %2.</source>
-        <translation>10 % est un dixième : %1 ÷ 10 = %2.</translation>
+        <translation>10&#xa0;% est un dixième&#xa0;: %1 ÷ 10 = %2.</translation>
     </message>
     <message>
         <source>15% is 10% and 5%. 10% of %1 is %2 and 5% is half of that, %3: %2 + %3 = %4.</source>
-        <translation>15 %, c&apos;est 10 % et 5 %. 10 % de %1, c&apos;est %2 et 5 % en est la moitié, %3 : %2 + %3 = %4.</translation>
+        <translation>15&#xa0;%, c&apos;est 10&#xa0;% et 5&#xa0;%. 10&#xa0;% de %1, c&apos;est %2 et 5&#xa0;% en est la moitié, %3&#xa0;: %2 + %3 = %4.</translation>
     </message>
     <message>
         <source>10% is one tenth: %1 ÷ 10 = %2. 20% is two lots of 10%: %2 × 2 = %3.</source>
-        <translation>10 % est un dixième : %1 ÷ 10 = %2. 20 %, c&apos;est deux fois 10 % : %2 × 2 = %3.</translation>
+        <translation>10&#xa0;% est un dixième&#xa0;: %1 ÷ 10 = %2. 20&#xa0;%, c&apos;est deux fois 10&#xa0;%&#xa0;: %2 × 2 = %3.</translation>
     </message>
     <message>
         <source>25% is one quarter: %1 ÷ 4 = %2.</source>
-        <translation>25 % est un quart : %1 ÷ 4 = %2.</translation>
+        <translation>25&#xa0;% est un quart&#xa0;: %1 ÷ 4 = %2.</translation>
     </message>
     <message>
         <source>50% is one half: %1 ÷ 2 = %2.</source>
-        <translation>50 % est une moitié : %1 ÷ 2 = %2.</translation>
+        <translation>50&#xa0;% est une moitié&#xa0;: %1 ÷ 2 = %2.</translation>
     </message>
     <message>
         <source>75% is three quarters: %1 ÷ 4 = %2, and %2 × 3 = %3.</source>
-        <translation>75 % font trois quarts : %1 ÷ 4 = %2, et %2 × 3 = %3.</translation>
+        <translation>75&#xa0;% font trois quarts&#xa0;: %1 ÷ 4 = %2, et %2 × 3 = %3.</translation>
     </message>
 </context>
 <context>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Find each amount. 10% is one tenth; 25% is one quarter.</source>
-        <translation>Trouve chaque quantité. 10 % est un dixième ; 25 % est un quart.</translation>
+        <translation>Trouve chaque quantité. 10&#xa0;% est un dixième&#xa0;; 25&#xa0;% est un quart.</translation>
     </message>
 </context>
 <context>
@@ -498,7 +498,7 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <name>Digits</name>
     <message>
         <source>What is the value of the %1?</source>
-        <translation>Quelle est la valeur du %1 ?</translation>
+        <translation>Quelle est la valeur du %1&#xa0;?</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -510,22 +510,22 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     </message>
     <message>
         <source>Choose a card first!</source>
-        <translation>Choisis d&apos;abord une carte !</translation>
+        <translation>Choisis d&apos;abord une carte&#xa0;!</translation>
     </message>
     <message>
         <source>Look at %1 in its place-value columns: the head of the column the %2 stands in names its value.</source>
-        <translation>Regarde %1 dans le tableau de numération : le titre de la colonne où se trouve le %2 donne sa valeur.</translation>
+        <translation>Regarde %1 dans le tableau de numération&#xa0;: le titre de la colonne où se trouve le %2 donne sa valeur.</translation>
     </message>
 </context>
 <context>
     <name>DigitsBoard</name>
     <message>
         <source>Write the value of the digit: 3 tenths (0.3).</source>
-        <translation>Écris la valeur du chiffre : 3 dixièmes (0.3).</translation>
+        <translation>Écris la valeur du chiffre&#xa0;: 3 dixièmes (0.3).</translation>
     </message>
     <message>
         <source>What is the value of the %1 in %2?</source>
-        <translation>Quelle est la valeur du %1 dans %2 ?</translation>
+        <translation>Quelle est la valeur du %1 dans %2&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -668,6 +668,52 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
 %1
 
 Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Partitude avec --settings DOSSIER pour choisir un dossier où il peut écrire.</translation>
+    </message>
+</context>
+<context>
+    <name>FractionOf</name>
+    <message>
+        <source>What is %1 of %2?</source>
+        <translation>Combien font %1 de %2 ?</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is %3.</source>
+        <translation>%1 de %2, c&apos;est %3.</translation>
+    </message>
+    <message>
+        <source>Type your answer in the box first!</source>
+        <translation>Écris d&apos;abord ta réponse dans la case !</translation>
+    </message>
+    <message>
+        <source>0 is not the answer: look at the bar again.</source>
+        <translation>0 n&apos;est pas la réponse : regarde encore la barre.</translation>
+    </message>
+    <message>
+        <source>To find %1 of %2, share %2 into %3 equal boxes: %2 ÷ %3 = %4.</source>
+        <translation>Pour trouver %1 de %2, partage %2 en %3 cases égales : %2 ÷ %3 = %4.</translation>
+    </message>
+    <message>
+        <source>First %1 of %2: %2 ÷ %3 = %4. Then %5 is %6 lots of %4: %7.</source>
+        <translation>D&apos;abord %1 de %2 : %2 ÷ %3 = %4. Puis %5, c&apos;est %6 fois %4 : %7.</translation>
+    </message>
+</context>
+<context>
+    <name>FractionOfBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>ta réponse</translation>
+    </message>
+    <message>
+        <source>your answer: %1</source>
+        <translation>ta réponse : %1</translation>
+    </message>
+    <message>
+        <source>Share the number into the equal boxes of the bar.</source>
+        <translation>Partage le nombre dans les cases égales de la barre.</translation>
     </message>
 </context>
 <context>
@@ -1298,15 +1344,15 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>How many tenths are there in %1?</source>
-        <translation>Combien y a-t-il de dixièmes dans %1 ?</translation>
+        <translation>Combien y a-t-il de dixièmes dans %1&#xa0;?</translation>
     </message>
     <message>
         <source>How many hundredths are there in %1?</source>
-        <translation>Combien y a-t-il de centièmes dans %1 ?</translation>
+        <translation>Combien y a-t-il de centièmes dans %1&#xa0;?</translation>
     </message>
     <message>
         <source>How many thousandths are there in %1?</source>
-        <translation>Combien y a-t-il de millièmes dans %1 ?</translation>
+        <translation>Combien y a-t-il de millièmes dans %1&#xa0;?</translation>
     </message>
     <message>
         <source>%1 is %2.</source>
@@ -1314,11 +1360,11 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>Type your answer in the box first!</source>
-        <translation>Tape d&apos;abord ta réponse dans la case !</translation>
+        <translation>Tape d&apos;abord ta réponse dans la case&#xa0;!</translation>
     </message>
     <message>
         <source>0 is not the answer: look at the number again.</source>
-        <translation>0 n&apos;est pas la réponse : regarde encore le nombre.</translation>
+        <translation>0 n&apos;est pas la réponse&#xa0;: regarde encore le nombre.</translation>
     </message>
     <message>
         <source>Write your number without a 0 in front.</source>
@@ -1330,7 +1376,7 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>%1 is %2, not %3: %3 is only the digit in the %4 column.</source>
-        <translation>%1, c&apos;est %2, pas %3 : %3 n&apos;est que le chiffre de la colonne des %4.</translation>
+        <translation>%1, c&apos;est %2, pas %3&#xa0;: %3 n&apos;est que le chiffre de la colonne des %4.</translation>
     </message>
     <message>
         <source>%1, so %2 = %3.</source>
@@ -1735,6 +1781,64 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
 </context>
 <context>
+    <name>PartsOfSet</name>
+    <message>
+        <source>Click on %1 of the %2.</source>
+        <translation>Clique sur %1 des %2.</translation>
+    </message>
+    <message>
+        <source>You chose %1 of the %2.</source>
+        <translation>Tu as choisi %1 des %2.</translation>
+    </message>
+    <message>
+        <source>Ring %1 of the %2.</source>
+        <translation>Entoure %1 des %2.</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 %3</source>
+        <translation>%1 des %2 %3</translation>
+    </message>
+    <message>
+        <source>You must choose some pictures!</source>
+        <translation>Tu dois choisir des images !</translation>
+    </message>
+    <message>
+        <source>%1 %2 in %3 equal groups is %4 in each group.</source>
+        <translation>%1 %2 en %3 groupes égaux : %4 par groupe.</translation>
+    </message>
+    <message>
+        <source>%1 is 1 group: %2 %3.</source>
+        <translation>%1, c&apos;est 1 groupe : %2 %3.</translation>
+    </message>
+    <message>
+        <source>%1 is %4 groups: %2 %3.</source>
+        <translation>%1, c&apos;est %4 groupes : %2 %3.</translation>
+    </message>
+    <message>
+        <source>You have not chosen any yet.</source>
+        <translation>Tu n&apos;en as encore choisi aucune.</translation>
+    </message>
+    <message>
+        <source>You have chosen %1: that is not enough yet.</source>
+        <translation>Tu en as choisi %1 : ce n&apos;est pas encore assez.</translation>
+    </message>
+    <message>
+        <source>You have chosen %1: that is too many.</source>
+        <translation>Tu en as choisi %1 : c&apos;est trop.</translation>
+    </message>
+    <message>
+        <source>You have chosen %1: that is just right!</source>
+        <translation>Tu en as choisi %1 : c&apos;est exactement ça !</translation>
+    </message>
+</context>
+<context>
+    <name>PartsOfSetBoard</name>
+    <message>
+        <source>Share the pictures into equal groups, then ring the ones asked for.</source>
+        <translation>Partage les images en groupes égaux, puis entoure celles qui sont demandées.</translation>
+    </message>
+</context>
+<context>
     <name>PictureCell</name>
     <message>
         <source>Click to choose this picture; click again to leave it out</source>
@@ -1848,7 +1952,7 @@ Partitude cherche ses images dans le dossier&#xa0;:
     </message>
     <message>
         <source>%1 in place-value columns: %2</source>
-        <translation>%1 dans le tableau de numération : %2</translation>
+        <translation>%1 dans le tableau de numération&#xa0;: %2</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,11 @@
 #include "activities/mixed/mixedmodes.h"
 #include "activities/howmany/howmanyboard.h"
 #include "activities/howmany/y6fract4.h"
+#include "activities/fractionof/fractionofboard.h"
+#include "activities/fractionof/y3fract3.h"
+#include "activities/fractionof/y5fract1.h"
+#include "activities/partsofset/partsofsetboard.h"
+#include "activities/partsofset/y3fract1.h"
 #include "activities/mixed/y5fract4.h"
 #include "activities/naming/namingboard.h"
 #include "activities/naming/y3fract2.h"
@@ -65,9 +70,9 @@ const QVector<Row>& all()
         {"y2Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Halves and Quarters 2"), "Y2fractions2", kEither, make<Y2fractions2>, nullptr, ShapesBoard::worksheet},
         {"y2Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Halves and Quarters 3"), "Y2fractions3", kShort, make<Y2fractions3>, nullptr, PicturesBoard::worksheet},
 
-        {"y3Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 1"), "y3fract1", kEither},
+        {"y3Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 1"), "y3fract1", kEither, make<y3fract1>, nullptr, PartsOfSetBoard::worksheet},
         {"y3Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 2"), "y3fract2", kEither, make<y3fract2>, nullptr, NamingBoard::year3Worksheet},
-        {"y3Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 3"), "y3fract3", kEither},
+        {"y3Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Halves, Quarters, Thirds and Tenths 3"), "y3fract3", kEither, make<y3fract3>, nullptr, FractionOfBoard::year3Sheet},
 
         {"y4Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 3"), "y4fract3", kEither, make<y4fract3>, nullptr, ChoiceBoard::worksheet},
         {"y4Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 2"), "y4fract2", kEither, make<y4fract2>, nullptr, PairBoard::worksheet},
@@ -75,7 +80,7 @@ const QVector<Row>& all()
         {"y4Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions 1"), "y4fract1", kEither, make<y4fract1>, nullptr, PairBoard::wallWorksheet},
         {"y4Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "More Than, Less Than"), "y4fract5", kEither, make<y4fract5>, nullptr, CompareBoard::worksheet},
 
-        {"y5Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Fractions of Numbers"), "y5fract1", kEither},
+        {"y5Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Fractions of Numbers"), "y5fract1", kEither, make<y5fract1>, nullptr, FractionOfBoard::year5Sheet},
         {"y5Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Equivalent Fractions"), "y5fract2", kEither, make<y5fract2>, nullptr, ChainBoard::worksheet},
         {"y5Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "Cancelling"), "y5fract3", kEither, make<y5fract3>, nullptr, CancelBoard::worksheet},
         {"y5Intro", "Command2", QT_TRANSLATE_NOOP("Activities", "Mixed Numbers and Improper Fractions"), "y5Intro2", kEither, nullptr, nullptr, nullptr, true},

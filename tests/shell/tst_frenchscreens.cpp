@@ -1,8 +1,10 @@
 // With French installed, six screens (three part way through a question) show
 // no English: every word seen or heard is French or the same in both languages.
+#include "activities/fractionof/y5fract1.h"
 #include "activities/halvesshapes/shapesboard.h"
 #include "activities/halvesshapes/y2fractions2.h"
 #include "activities/mixed/y5fract4.h"
+#include "activities/partsofset/y3fract1.h"
 #include "activities/review/y5fract5.h"
 #include "kit/parts/shapeboard.h"
 #include "menus/year.h"
@@ -81,10 +83,16 @@ Form* openScreen(const QString& which)
         form->cmdhint_Click();
         return form;
     }
-    if (which == QLatin1String("Year 5 review")) { // a question of the review, a hint asked for
-        auto* review = started<y5fract5>("y5Intro", "Command6");
-        review->cmdhint_Click();
-        return review;
+    KitScreen* kit = nullptr;
+    if (which == QLatin1String("Year 5 review")) // a question of the review
+        kit = started<y5fract5>("y5Intro", "Command6");
+    else if (which == QLatin1String("Year 3 pictures")) // a hint that counts the pictures chosen
+        kit = started<y3fract1>("y3Intro", "Command2");
+    else if (which == QLatin1String("fractions of numbers"))
+        kit = started<y5fract1>("y5Intro", "Command1");
+    if (kit) {
+        kit->cmdhint_Click();
+        return kit;
     }
     auto* form = started<y5fract4>("y5Intro2", "Command1"); // mixed numbers, a hint asked for
     form->cmdhint_Click();
@@ -127,6 +135,8 @@ private slots:
         QTest::newRow("Halves and Quarters 2, a hint") << "Halves and Quarters 2" << QStringLiteral("Indice");
         QTest::newRow("mixed numbers, a hint") << "mixed numbers" << QStringLiteral("Vérifier");
         QTest::newRow("Year 5 review, a hint") << "Year 5 review" << QStringLiteral("Vérifier");
+        QTest::newRow("Year 3 pictures, a hint") << "Year 3 pictures" << QStringLiteral("Tu n'en as encore choisi aucune.");
+        QTest::newRow("fractions of numbers, a hint") << "fractions of numbers" << QStringLiteral("Indice");
     }
     void screenSpeaksFrench()
     {

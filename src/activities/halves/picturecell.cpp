@@ -4,6 +4,7 @@
 #include "runtime/twips.h"
 
 #include <QPainter>
+#include <algorithm>
 
 const QColor PictureCell::kTile{255, 251, 238};
 
@@ -13,6 +14,10 @@ const QColor kChosenTile{255, 236, 150};
 const QColor kLight{255, 255, 255};
 const QColor kShadow{110, 80, 20};
 const QColor kFocus{0, 58, 140};
+// A group's frame, as a share of the cell's smaller side: an asked group's,
+// and the others'.
+constexpr double kGroupFrameShare = 0.09;
+constexpr double kOtherGroupFrameShare = 0.035;
 } // namespace
 
 PictureCell::PictureCell(QWidget* parent, int index)
@@ -46,6 +51,13 @@ void PictureCell::nameForReader()
                                   : tr("%1 %2 of %3, not chosen").arg(m_name).arg(m_index + 1).arg(m_shown));
 }
 
+void PictureCell::setGroupColour(const QColor& colour, bool asked)
+{
+    m_group = colour;
+    m_groupAsked = asked;
+    update();
+}
+
 QSize PictureCell::sizeHint() const
 {
     return Twips::scaledPixels(m_picture.deviceIndependentSize()) + Twips::scaledPixels(QSize(2 * kBevel, 2 * kBevel));
@@ -67,6 +79,14 @@ void PictureCell::paintEvent(QPaintEvent*)
         QRect target(QPoint(0, 0), size);
         target.moveCenter(inside.center());
         painter.drawPixmap(target, m_picture);
+    }
+
+    if (m_group.isValid()) {
+        const double frame
+            = std::min(whole.width(), whole.height()) * (m_groupAsked ? kGroupFrameShare : kOtherGroupFrameShare);
+        painter.setPen(QPen(m_group, frame));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(QRectF(whole).adjusted(frame / 2, frame / 2, -frame / 2, -frame / 2));
     }
 
     if (isChecked()) {

@@ -26,6 +26,13 @@ public:
     void setPicture(const QString& assetPath, const QString& name, int shown);
     QString picturePath() const { return m_path; }
 
+    // A hint shows which equal group the cell is in: a frame of the group's
+    // colour round the picture, thick for a group the question asks for and
+    // thin for the others. An invalid colour (the default) shows no group.
+    void setGroupColour(const QColor& colour, bool asked = true);
+    QColor groupColour() const { return m_group; }
+    bool groupAsked() const { return m_groupAsked; }
+
     QSize sizeHint() const override;
 
     // The tile behind every picture; the pictures' edges are drawn for it.
@@ -44,4 +51,6 @@ private:
     QString m_name;
     QString m_path;
     QPixmap m_picture;
+    QColor m_group;
+    bool m_groupAsked = true;
 };

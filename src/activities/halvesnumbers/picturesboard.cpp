@@ -95,19 +95,24 @@ Worksheets::Sheet PicturesBoard::worksheet(Random::Source& rnd)
             Worksheets::Row row;
             row.question = q.instruction();
             row.answer = QString::number(q.answer());
-            const int rows = (q.amount + kSheetPicturesPerRow - 1) / kSheetPicturesPerRow;
-            row.pictureHeight = rows * kSheetPicture;
-            const QPixmap picture = Pictures::get(QString::fromLatin1(Halves::kPictureSets[q.set - 1].file));
-            row.picture = [q, picture](QPainter& painter, const QRectF& box) {
-                const double size = std::min(kSheetPicture, box.width() / kSheetPicturesPerRow);
-                for (int n = 0; n < q.amount; ++n)
-                    painter.drawPixmap(QRectF(box.left() + (n % kSheetPicturesPerRow) * size,
-                                              box.top() + (n / kSheetPicturesPerRow) * size, size * kSheetPictureFill,
-                                              size * kSheetPictureFill),
-                                       picture, QRectF(picture.rect()));
-            };
-            return row;
+            return withPictures(row, q.set, q.amount);
         });
+}
+
+Worksheets::Row PicturesBoard::withPictures(Worksheets::Row row, int set, int count)
+{
+    const int rows = (count + kSheetPicturesPerRow - 1) / kSheetPicturesPerRow;
+    row.pictureHeight = rows * kSheetPicture;
+    const QPixmap picture = Pictures::get(QString::fromLatin1(Halves::kPictureSets[set - 1].file));
+    row.picture = [count, picture](QPainter& painter, const QRectF& box) {
+        const double size = std::min(kSheetPicture, box.width() / kSheetPicturesPerRow);
+        for (int n = 0; n < count; ++n)
+            painter.drawPixmap(QRectF(box.left() + (n % kSheetPicturesPerRow) * size,
+                                      box.top() + (n / kSheetPicturesPerRow) * size, size * kSheetPictureFill,
+                                      size * kSheetPictureFill),
+                               picture, QRectF(picture.rect()));
+    };
+    return row;
 }
 
 void PicturesBoard::resizeEvent(QResizeEvent*)

@@ -21,6 +21,9 @@ public:
 
     // 12 fresh questions, each with its pictures, and their answers.
     static Worksheets::Sheet worksheet(Random::Source& rnd);
+    // A worksheet row's picture: `count` copies of a set's picture in rows
+    // of ten, and the twips it needs.
+    static Worksheets::Row withPictures(Worksheets::Row row, int set, int count);
 
     void pose(Random::Source& rnd) override;
     QString instruction() const override;

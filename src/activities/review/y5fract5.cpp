@@ -2,6 +2,7 @@
 
 #include "activities/equivalent/cancelboard.h"
 #include "activities/equivalent/chainboard.h"
+#include "activities/fractionof/fractionofboard.h"
 #include "activities/mixed/mixedboard.h"
 #include "activities/mixed/mixedmodes.h"
 
@@ -9,6 +10,11 @@
 
 namespace {
 using MixedModes::mode;
+
+KitBoard* fractionsOfNumbersBoard()
+{
+    return new FractionOfBoard(FractionOf::kYear5);
+}
 
 KitBoard* toImproperBoard()
 {
@@ -41,6 +47,7 @@ y5fract5::y5fract5()
 const QVector<ReviewBoard::Member>& y5fract5::members()
 {
     static const QVector<ReviewBoard::Member> list{
+        {"FractionsOfNumbers", fractionsOfNumbersBoard, FractionOfBoard::year5Sheet},
         {"MixedToImproper", toImproperBoard, toImproperSheet},
         {"MixedToMixed", toMixedBoard, toMixedSheet},
         {"EquivalentChain", ReviewBoard::make<ChainBoard>, ChainBoard::worksheet},

@@ -1,0 +1,107 @@
+// Halves, Quarters, Thirds and Tenths 1 played with the keyboard alone, from
+// its menu, and its worksheet.
+#include "activities/halves/picturecell.h"
+#include "activities/partsofset/partsofsetboard.h"
+#include "activities/partsofset/y3fract1.h"
+#include "runtime/keyboard.h"
+#include "sheetcheck.h"
+#include "testsupport.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QtTest>
+
+using namespace Module1;
+
+class TestY3fract1 : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { world.fresh(7); }
+    void oneQuestionByKeyboard();
+    void worksheet();
+
+private:
+    y3fract1* open()
+    {
+        Forms::show(QStringLiteral("y3Intro"))->findChild<QPushButton*>(QStringLiteral("Command2"))->click();
+        TestSupport::flushUnloads();
+        return Forms::find<y3fract1>();
+    }
+    TestSupport::World world;
+};
+
+// Start; Enter with nothing chosen keeps the question; the hint frames the
+// groups and counts the choice; arrows and Space choose the answer; Enter checks.
+void TestY3fract1::oneQuestionByKeyboard()
+{
+    auto* form = open();
+    QVERIFY(form);
+    QApplication::setActiveWindow(form);
+    QTest::keyClick(form->cmdstart, Qt::Key_Space);
+    auto* board = static_cast<PartsOfSetBoard*>(form->board());
+    const PartsOfSet::Question q = board->question();
+    QCOMPARE(QApplication::focusWidget(), board->Image1[0]);
+    // The board is one Tab stop, held by the cursor's picture.
+    int stops = 0;
+    for (PictureCell* cell : board->Image1)
+        stops += cell->isVisibleTo(board) && Keyboard::takesTab(cell);
+    QCOMPARE(stops, 1);
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(form->Label2->text(), QStringLiteral("You must choose some pictures!"));
+
+    // Two pictures too many, or one too few when that leaves none: the hint says so.
+    const int first = q.target() + 2 <= q.howmany ? q.target() + 2 : q.target() - 1;
+    for (int i = 0; i < first; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+    }
+    QCOMPARE(board->chosenCount(), first);
+    form->cmdhint->click();
+    QCOMPARE(form->Label2->text(), PartsOfSet::hint(q));
+    QCOMPARE(board->Label9->text(), PartsOfSet::progress(q, first));
+    QVERIFY(board->Label9->isVisible());
+    const int each = q.howmany / q.bottom;
+    for (PictureCell* cell : board->Image1.mid(0, q.howmany)) {
+        QVERIFY(cell->groupColour().isValid());
+        QCOMPARE(cell->groupAsked(), cell->index() / each < q.top);
+        QCOMPARE(cell->groupColour() == board->Image1[0]->groupColour(), cell->index() < each);
+    }
+
+    // Back to the start with the arrows (up a row, then left), leaving out
+    // what is too many or choosing what is missing.
+    board->focusAnswer();
+    while (board->cursor() >= PartsOfSet::kRowLength)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    while (board->cursor() > 0)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
+    QCOMPARE(QApplication::focusWidget(), board->Image1[0]);
+    for (int i = 0; i < q.howmany; ++i) {
+        if (board->Image1[i]->isSelected() != (i < q.target()))
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+    }
+    QCOMPARE(board->Label9->text(), PartsOfSet::progress(q, q.target()));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
+    QCOMPARE(counter, 1);
+    QCOMPARE(form->Label2->text(), praisetext + q.rightAnswer());
+    QVERIFY(!board->Label9->isVisible());
+    form->setEnabled(true);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // moves on at once
+    QVERIFY(!(board->question() == q) && board->chosenCount() == 0 && form->Label1->isVisible());
+    QVERIFY(!board->Image1[0]->groupColour().isValid());
+}
+
+// Print asks first, then gives 12 fresh questions and their answers.
+void TestY3fract1::worksheet()
+{
+    if (!PdfSupport::missingTool().isEmpty())
+        QSKIP("poppler-utils is not installed");
+    auto* form = open();
+    world.answer = MsgBox::Answer::Yes;
+    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, PartsOfSetBoard::worksheet), QString());
+    QCOMPARE(world.messages.size(), 1);
+}
+
+QTEST_MAIN(TestY3fract1)
+#include "tst_y3fract1.moc"
