@@ -217,6 +217,17 @@
     </message>
 </context>
 <context>
+    <name>BetweenBoard</name>
+    <message>
+        <source>Write a decimal that lies between the two numbers. The number line helps.</source>
+        <translation>Écris un nombre décimal entre les deux nombres. La droite graduée t&apos;aide.</translation>
+    </message>
+    <message>
+        <source>%1 (or any number between)</source>
+        <translation>%1 (ou tout autre nombre entre les deux)</translation>
+    </message>
+</context>
+<context>
     <name>ChoiceCards</name>
     <message>
         <source>answer cards</source>
@@ -246,6 +257,32 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <message>
         <source>Goodbye</source>
         <translation>Au revoir</translation>
+    </message>
+</context>
+<context>
+    <name>DecimalBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>ta réponse</translation>
+    </message>
+</context>
+<context>
+    <name>DecimalsBetween</name>
+    <message>
+        <source>%1 is between %2 and %3.</source>
+        <translation>%1 est entre %2 et %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3. Try %4.</source>
+        <translation>%1 n&apos;est pas entre %2 et %3. Essaie %4.</translation>
+    </message>
+    <message>
+        <source>Write them with one more place: %1 and %2. Any of %3 to %4 lies between.</source>
+        <translation>Écris-les avec un chiffre de plus après le point&#xa0;: %1 et %2. Tous les nombres de %3 à %4 sont entre les deux.</translation>
+    </message>
+    <message>
+        <source>Type a decimal between %1 and %2.</source>
+        <translation>Tape un nombre décimal entre %1 et %2.</translation>
     </message>
 </context>
 <context>
@@ -691,6 +728,16 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
             <numerusform>%1 millième</numerusform>
             <numerusform>%1 millièmes</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>point %1</source>
+        <comment>a decimal read aloud: point five</comment>
+        <translation>point %1</translation>
+    </message>
+    <message>
+        <source>%1 point %2</source>
+        <comment>a decimal read aloud: three point four five</comment>
+        <translation>%1 point %2</translation>
     </message>
 </context>
 <context>
@@ -1199,6 +1246,41 @@ Partitude cherche ses images dans le dossier&#xa0;:
     </message>
 </context>
 <context>
+    <name>Rounding</name>
+    <message>
+        <source>Look at the digit after the place you round to: %1 is 5 or more, so round up to %2.</source>
+        <translation>Regarde le chiffre après le rang où tu arrondis&#xa0;: %1 est 5 ou plus, alors arrondis au-dessus, à %2.</translation>
+    </message>
+    <message>
+        <source>Look at the digit after the place you round to: %1 is less than 5, so round down to %2.</source>
+        <translation>Regarde le chiffre après le rang où tu arrondis&#xa0;: %1 est moins que 5, alors arrondis au-dessous, à %2.</translation>
+    </message>
+    <message>
+        <source>Round %1 to the nearest whole number.</source>
+        <translation>Arrondis %1 au nombre entier le plus proche.</translation>
+    </message>
+    <message>
+        <source>Round %1 to one decimal place.</source>
+        <translation>Arrondis %1 à une décimale.</translation>
+    </message>
+    <message>
+        <source>Round %1 to two decimal places.</source>
+        <translation>Arrondis %1 à deux décimales.</translation>
+    </message>
+    <message>
+        <source>%1 rounded to the nearest whole number is %2.</source>
+        <translation>%1 arrondi au nombre entier le plus proche donne %2.</translation>
+    </message>
+    <message>
+        <source>%1 rounded to one decimal place is %2.</source>
+        <translation>%1 arrondi à une décimale donne %2.</translation>
+    </message>
+    <message>
+        <source>%1 rounded to two decimal places is %2.</source>
+        <translation>%1 arrondi à deux décimales donne %2.</translation>
+    </message>
+</context>
+<context>
     <name>ShapeBoard</name>
     <message>
         <source>part %1 of %2, %3</source>
@@ -1284,6 +1366,33 @@ Partitude cherche ses images dans le dossier&#xa0;:
     <message>
         <source>Partitude title picture</source>
         <translation>image titre de Partitude</translation>
+    </message>
+</context>
+<context>
+    <name>TypedDecimal</name>
+    <message>
+        <source>Type a point for a decimal, not a comma.</source>
+        <translation>Tape un point pour un nombre décimal, pas une virgule.</translation>
+    </message>
+    <message>
+        <source>Type only digits and a point.</source>
+        <translation>Tape seulement des chiffres et un point.</translation>
+    </message>
+    <message>
+        <source>Type a number in the box first!</source>
+        <translation>Écris d&apos;abord un nombre dans la case !</translation>
+    </message>
+    <message>
+        <source>A number has only one point.</source>
+        <translation>Un nombre n&apos;a qu&apos;un seul point.</translation>
+    </message>
+    <message>
+        <source>That number is too long.</source>
+        <translation>Ce nombre est trop long.</translation>
+    </message>
+    <message>
+        <source>Write the number without a 0 in front.</source>
+        <translation>Écris le nombre sans 0 devant.</translation>
     </message>
 </context>
 <context>

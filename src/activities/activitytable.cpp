@@ -1,5 +1,7 @@
 #include "activitytable.h"
 
+#include "activities/decimals/betweenboard.h"
+#include "activities/decimals/y6fract2.h"
 #include "activities/halves/y2fractions.h"
 #include "activities/halvesnumbers/picturesboard.h"
 #include "activities/halvesnumbers/y2fractions3.h"
@@ -66,7 +68,7 @@ const QVector<Row>& all()
         {"y5Intro2", "Command5", QT_TRANSLATE_NOOP("Activities", "Improper Fractions To Mixed Numbers"), "y5fract7", kEither},
 
         {"y6Intro", "Command2", kBothWays, "y6fract1", kEither},
-        {"y6Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Decimals Between"), "y6fract2", kEither},
+        {"y6Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Decimals Between"), "y6fract2", kEither, make<y6fract2>, nullptr, BetweenBoard::worksheet},
         {"y6Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Place In Order"), "Y6fract3", kEither, make<Y6fract3>, "y6fracprint3"},
         {"y6Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "How Many?"), "y6fract4", kEither},
         {"y6Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Finding Amounts"), "y6fract5", kEither},
