@@ -1281,6 +1281,13 @@ Partitude looks for its pictures in the folder:
     </message>
 </context>
 <context>
+    <name>RoundingBoard</name>
+    <message>
+        <source>Round each number as it asks. The number line shows the two numbers it lies between.</source>
+        <translation>Round each number as it asks. The number line shows the two numbers it lies between.</translation>
+    </message>
+</context>
+<context>
     <name>ShapeBoard</name>
     <message>
         <source>part %1 of %2, %3</source>

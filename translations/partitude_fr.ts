@@ -1281,6 +1281,13 @@ Partitude cherche ses images dans le dossier&#xa0;:
     </message>
 </context>
 <context>
+    <name>RoundingBoard</name>
+    <message>
+        <source>Round each number as it asks. The number line shows the two numbers it lies between.</source>
+        <translation>Arrondis chaque nombre comme demandé. La droite graduée montre les deux nombres qui l&apos;entourent.</translation>
+    </message>
+</context>
+<context>
     <name>ShapeBoard</name>
     <message>
         <source>part %1 of %2, %3</source>
@@ -1380,7 +1387,7 @@ Partitude cherche ses images dans le dossier&#xa0;:
     </message>
     <message>
         <source>Type a number in the box first!</source>
-        <translation>Écris d&apos;abord un nombre dans la case !</translation>
+        <translation>Écris d&apos;abord un nombre dans la case&#xa0;!</translation>
     </message>
     <message>
         <source>A number has only one point.</source>

@@ -1,7 +1,9 @@
 #include "activitytable.h"
 
 #include "activities/decimals/betweenboard.h"
+#include "activities/decimals/roundingboard.h"
 #include "activities/decimals/y6fract2.h"
+#include "activities/decimals/y6fract7.h"
 #include "activities/halves/y2fractions.h"
 #include "activities/halvesnumbers/picturesboard.h"
 #include "activities/halvesnumbers/y2fractions3.h"
@@ -73,7 +75,7 @@ const QVector<Row>& all()
         {"y6Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "How Many?"), "y6fract4", kEither},
         {"y6Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Finding Amounts"), "y6fract5", kEither},
         {"y6Intro", "Command7", QT_TRANSLATE_NOOP("Activities", "Digits"), "y6fract6", kEither},
-        {"y6Intro", "Command8", QT_TRANSLATE_NOOP("Activities", "Rounding"), "y6fract7", kEither},
+        {"y6Intro", "Command8", QT_TRANSLATE_NOOP("Activities", "Rounding"), "y6fract7", kEither, make<y6fract7>, nullptr, RoundingBoard::worksheet},
     };
     return rows;
 }

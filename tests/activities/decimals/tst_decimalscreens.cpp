@@ -2,7 +2,9 @@
 // Year 6 menu, and their printed worksheets.
 #include "activities/activitytable.h"
 #include "activities/decimals/betweenboard.h"
+#include "activities/decimals/roundingboard.h"
 #include "activities/decimals/y6fract2.h"
+#include "activities/decimals/y6fract7.h"
 #include "kit/parts/numberline.h"
 #include "sheetcheck.h"
 #include "testsupport.h"
@@ -19,6 +21,7 @@ class TestDecimalScreens : public QObject {
 private slots:
     void init() { world.fresh(6); }
     void betweenByKeyboard();
+    void roundingByKeyboard();
     void worksheets_data();
     void worksheets();
 
@@ -83,6 +86,38 @@ void TestDecimalScreens::betweenByKeyboard()
     QCOMPARE(counter, 1);
     QCOMPARE(board->Line1->marked(), next.middle().toText());
     QVERIFY(board->Line1->accessibleName().contains(QStringLiteral(" point ")));
+}
+
+// The number to round stands on the line between the two it rounds to;
+// the rounded number typed with a place too many is wrong, and pinned.
+void TestDecimalScreens::roundingByKeyboard()
+{
+    auto* form = qobject_cast<y6fract7*>(open("Command8"));
+    QVERIFY(form);
+    QApplication::setActiveWindow(form);
+    QTest::keyClick(form->cmdstart, Qt::Key_Space);
+    auto* board = static_cast<RoundingBoard*>(form->board());
+    QCOMPARE(QApplication::focusWidget(), board->Text1);
+    const Rounding::Question q = board->question();
+    QCOMPARE(form->Label1->text(), q.instruction());
+    QCOMPARE(board->Line1->toRound(), q.written());
+    QCOMPARE(board->Line1->from() + QLatin1Char(' ') + board->Line1->to(), q.below() + QLatin1Char(' ') + q.above());
+    form->cmdhint->click();
+    QCOMPARE(form->Label2->text(), Rounding::hint(q));
+
+    const QString tooLong = q.answer().toFixed(q.asked + 1);
+    QTest::keyClicks(board->Text1, tooLong);
+    QTest::keyClick(board->Text1, Qt::Key_Return);
+    QCOMPARE(form->Label2->text(), QStringLiteral("Not quite. ") + q.statement());
+    QCOMPARE(board->Line1->marked(), tooLong);
+    form->setEnabled(true);
+    QTest::keyClick(board->Text1, Qt::Key_Return);
+
+    const Rounding::Question next = board->question();
+    QTest::keyClicks(board->Text1, next.answerText());
+    QTest::keyClick(board->Text1, Qt::Key_Return);
+    QCOMPARE(counter, 1);
+    QCOMPARE(form->Label2->text(), praisetext + next.statement());
 }
 
 void TestDecimalScreens::worksheets_data()
