@@ -226,6 +226,10 @@
         <source>%1 (or any number between)</source>
         <translation>%1 (ou tout autre nombre entre les deux)</translation>
     </message>
+    <message>
+        <source>Write a decimal between %1 and %2.</source>
+        <translation>Écris un nombre décimal entre %1 et %2.</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceCards</name>

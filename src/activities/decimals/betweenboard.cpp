@@ -51,7 +51,8 @@ Worksheets::Sheet BetweenBoard::worksheet(Random::Source& rnd)
         [&rnd](const DecimalsBetween::Question* last) { return DecimalsBetween::draw(rnd, last); },
         [](const DecimalsBetween::Question& q) {
             Worksheets::Row row;
-            row.question = q.instruction();
+            row.question = QCoreApplication::translate("BetweenBoard", "Write a decimal between %1 and %2.")
+                               .arg(q.from(), q.to());
             row.answer
                 = QCoreApplication::translate("BetweenBoard", "%1 (or any number between)").arg(q.middle().toText());
             row.pictureHeight = sheetLineHeight();

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <cmath>
 
 namespace {
 constexpr double kBoxPoints = 24;
@@ -15,8 +16,8 @@ constexpr int kBoxHeight = 720;
 constexpr int kGap = 120;
 // On a worksheet the line is drawn as a widget of this many pixels, scaled
 // to its place.
-constexpr QSize kSheetLinePixels{440, 120};
-constexpr double kSheetLineHeight = 900; // twips
+constexpr QSize kSheetLinePixels{600, 160};
+constexpr double kSheetLineHeight = 600; // twips
 } // namespace
 
 DecimalBoard::DecimalBoard(int answerLength, QWidget* parent)
@@ -92,12 +93,16 @@ void DecimalBoard::paintSheetLine(
     line.setEnds(from, to);
     if (!toRound.isEmpty())
         line.markToRound(toRound);
-    const double scale = std::min(box.width() / kSheetLinePixels.width(), box.height() / kSheetLinePixels.height());
+    // Nothing is pinned above the line on paper: only the band from the
+    // ticks down to the labels is drawn, as large as the box allows.
+    const QRectF labels = line.endLabelRect(0).united(line.toRoundLabelRect());
+    const double top = 2 * line.lineY() - labels.top();
+    const QRect band(0, int(top), line.width(), int(std::ceil(labels.bottom() - top)));
+    const double scale = std::min(box.width() / band.width(), box.height() / band.height());
     painter.save();
-    painter.translate(box.center().x() - kSheetLinePixels.width() * scale / 2,
-        box.center().y() - kSheetLinePixels.height() * scale / 2);
+    painter.translate(box.center().x() - band.width() * scale / 2, box.center().y() - band.height() * scale / 2);
     painter.scale(scale, scale);
-    line.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    line.render(&painter, QPoint(), QRegion(band), QWidget::DrawChildren);
     painter.restore();
 }
 

@@ -43,8 +43,8 @@ Worksheets::Sheet RoundingBoard::worksheet(Random::Source& rnd)
 {
     return Worksheets::drawSheet<Rounding::Question>(
         QCoreApplication::translate("Activities", "Rounding"),
-        QCoreApplication::translate("RoundingBoard",
-            "Round each number as it asks. The number line shows the two numbers it lies between."),
+        QCoreApplication::translate(
+            "RoundingBoard", "Round each number as it asks. The number line shows the two numbers it lies between."),
         [&rnd](const Rounding::Question* last) { return Rounding::draw(rnd, last); },
         [](const Rounding::Question& q) {
             Worksheets::Row row;
