@@ -311,6 +311,21 @@
     </message>
 </context>
 <context>
+    <name>BetweenBoard</name>
+    <message>
+        <source>Write a decimal that lies between the two numbers. The number line helps.</source>
+        <translation>Write a decimal that lies between the two numbers. The number line helps.</translation>
+    </message>
+    <message>
+        <source>Write a decimal between %1 and %2.</source>
+        <translation>Write a decimal between %1 and %2.</translation>
+    </message>
+    <message>
+        <source>%1 (or any number between)</source>
+        <translation>%1 (or any number between)</translation>
+    </message>
+</context>
+<context>
     <name>CancelBoard</name>
     <message>
         <source>top number</source>
@@ -408,19 +423,6 @@
     </message>
 </context>
 <context>
-    <name>Comingsoon</name>
-    <message>
-        <source>This activity is still being made.
-Click Goodbye and choose another one for now.</source>
-        <translation>This activity is still being made.
-Click Goodbye and choose another one for now.</translation>
-    </message>
-    <message>
-        <source>Goodbye</source>
-        <translation>Goodbye</translation>
-    </message>
-</context>
-<context>
     <name>CompareBoard</name>
     <message>
         <source>Write &lt;, = or &gt; in the box between the two fractions.</source>
@@ -492,6 +494,32 @@ Click Goodbye and choose another one for now.</translation>
     <message>
         <source>%1 and %2</source>
         <translation>%1 and %2</translation>
+    </message>
+</context>
+<context>
+    <name>DecimalBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>your answer</translation>
+    </message>
+</context>
+<context>
+    <name>DecimalsBetween</name>
+    <message>
+        <source>Type a decimal between %1 and %2.</source>
+        <translation>Type a decimal between %1 and %2.</translation>
+    </message>
+    <message>
+        <source>%1 is between %2 and %3.</source>
+        <translation>%1 is between %2 and %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3. Try %4.</source>
+        <translation>%1 is not between %2 and %3. Try %4.</translation>
+    </message>
+    <message>
+        <source>Write them with one more place: %1 and %2. Any of %3 to %4 lies between.</source>
+        <translation>Write them with one more place: %1 and %2. Any of %3 to %4 lies between.</translation>
     </message>
 </context>
 <context>
@@ -1141,6 +1169,16 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
             <numerusform>%1 %2</numerusform>
             <numerusform>%1 %2</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>point %1</source>
+        <comment>a decimal read aloud: point five</comment>
+        <translation>point %1</translation>
+    </message>
+    <message>
+        <source>%1 point %2</source>
+        <comment>a decimal read aloud: three point four five</comment>
+        <translation>%1 point %2</translation>
     </message>
 </context>
 <context>
@@ -2068,6 +2106,48 @@ Partitude looks for its pictures in the folder:
     </message>
 </context>
 <context>
+    <name>Rounding</name>
+    <message>
+        <source>Round %1 to the nearest whole number.</source>
+        <translation>Round %1 to the nearest whole number.</translation>
+    </message>
+    <message>
+        <source>Round %1 to one decimal place.</source>
+        <translation>Round %1 to one decimal place.</translation>
+    </message>
+    <message>
+        <source>Round %1 to two decimal places.</source>
+        <translation>Round %1 to two decimal places.</translation>
+    </message>
+    <message>
+        <source>%1 rounded to the nearest whole number is %2.</source>
+        <translation>%1 rounded to the nearest whole number is %2.</translation>
+    </message>
+    <message>
+        <source>%1 rounded to one decimal place is %2.</source>
+        <translation>%1 rounded to one decimal place is %2.</translation>
+    </message>
+    <message>
+        <source>%1 rounded to two decimal places is %2.</source>
+        <translation>%1 rounded to two decimal places is %2.</translation>
+    </message>
+    <message>
+        <source>Look at the digit after the place you round to: %1 is 5 or more, so round up to %2.</source>
+        <translation>Look at the digit after the place you round to: %1 is 5 or more, so round up to %2.</translation>
+    </message>
+    <message>
+        <source>Look at the digit after the place you round to: %1 is less than 5, so round down to %2.</source>
+        <translation>Look at the digit after the place you round to: %1 is less than 5, so round down to %2.</translation>
+    </message>
+</context>
+<context>
+    <name>RoundingBoard</name>
+    <message>
+        <source>Round each number as it asks. The number line shows the two numbers it lies between.</source>
+        <translation>Round each number as it asks. The number line shows the two numbers it lies between.</translation>
+    </message>
+</context>
+<context>
     <name>ShapeBoard</name>
     <message>
         <source>part %1 of %2, %3</source>
@@ -2168,6 +2248,33 @@ Partitude looks for its pictures in the folder:
     <message>
         <source>Partitude title picture</source>
         <translation>Partitude title picture</translation>
+    </message>
+</context>
+<context>
+    <name>TypedDecimal</name>
+    <message>
+        <source>Type a point for a decimal, not a comma.</source>
+        <translation>Type a point for a decimal, not a comma.</translation>
+    </message>
+    <message>
+        <source>Type only digits and a point.</source>
+        <translation>Type only digits and a point.</translation>
+    </message>
+    <message>
+        <source>Type a number in the box first!</source>
+        <translation>Type a number in the box first!</translation>
+    </message>
+    <message>
+        <source>A number has only one point.</source>
+        <translation>A number has only one point.</translation>
+    </message>
+    <message>
+        <source>That number is too long.</source>
+        <translation>That number is too long.</translation>
+    </message>
+    <message>
+        <source>Write the number without a 0 in front.</source>
+        <translation>Write the number without a 0 in front.</translation>
     </message>
 </context>
 <context>

@@ -311,6 +311,21 @@
     </message>
 </context>
 <context>
+    <name>BetweenBoard</name>
+    <message>
+        <source>Write a decimal that lies between the two numbers. The number line helps.</source>
+        <translation>Écris un nombre décimal entre les deux nombres. La droite graduée t&apos;aide.</translation>
+    </message>
+    <message>
+        <source>Write a decimal between %1 and %2.</source>
+        <translation>Écris un nombre décimal entre %1 et %2.</translation>
+    </message>
+    <message>
+        <source>%1 (or any number between)</source>
+        <translation>%1 (ou tout autre nombre entre les deux)</translation>
+    </message>
+</context>
+<context>
     <name>CancelBoard</name>
     <message>
         <source>top number</source>
@@ -408,19 +423,6 @@
     </message>
 </context>
 <context>
-    <name>Comingsoon</name>
-    <message>
-        <source>This activity is still being made.
-Click Goodbye and choose another one for now.</source>
-        <translation>Cette activité est encore en préparation.
-Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
-    </message>
-    <message>
-        <source>Goodbye</source>
-        <translation>Au revoir</translation>
-    </message>
-</context>
-<context>
     <name>CompareBoard</name>
     <message>
         <source>Write &lt;, = or &gt; in the box between the two fractions.</source>
@@ -492,6 +494,32 @@ Clique sur Au revoir et choisis-en une autre pour l&apos;instant.</translation>
     <message>
         <source>%1 and %2</source>
         <translation>%1 et %2</translation>
+    </message>
+</context>
+<context>
+    <name>DecimalBoard</name>
+    <message>
+        <source>your answer</source>
+        <translation>ta réponse</translation>
+    </message>
+</context>
+<context>
+    <name>DecimalsBetween</name>
+    <message>
+        <source>Type a decimal between %1 and %2.</source>
+        <translation>Tape un nombre décimal entre %1 et %2.</translation>
+    </message>
+    <message>
+        <source>%1 is between %2 and %3.</source>
+        <translation>%1 est entre %2 et %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3. Try %4.</source>
+        <translation>%1 n&apos;est pas entre %2 et %3. Essaie %4.</translation>
+    </message>
+    <message>
+        <source>Write them with one more place: %1 and %2. Any of %3 to %4 lies between.</source>
+        <translation>Écris-les avec un chiffre de plus après le point&#xa0;: %1 et %2. Tous les nombres de %3 à %4 sont entre les deux.</translation>
     </message>
 </context>
 <context>
@@ -674,7 +702,7 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     <name>FractionOf</name>
     <message>
         <source>What is %1 of %2?</source>
-        <translation>Combien font %1 de %2 ?</translation>
+        <translation>Combien font %1 de %2&#xa0;?</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -686,19 +714,19 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>Type your answer in the box first!</source>
-        <translation>Écris d&apos;abord ta réponse dans la case !</translation>
+        <translation>Écris d&apos;abord ta réponse dans la case&#xa0;!</translation>
     </message>
     <message>
         <source>0 is not the answer: look at the bar again.</source>
-        <translation>0 n&apos;est pas la réponse : regarde encore la barre.</translation>
+        <translation>0 n&apos;est pas la réponse&#xa0;: regarde encore la barre.</translation>
     </message>
     <message>
         <source>To find %1 of %2, share %2 into %3 equal boxes: %2 ÷ %3 = %4.</source>
-        <translation>Pour trouver %1 de %2, partage %2 en %3 cases égales : %2 ÷ %3 = %4.</translation>
+        <translation>Pour trouver %1 de %2, partage %2 en %3 cases égales&#xa0;: %2 ÷ %3 = %4.</translation>
     </message>
     <message>
         <source>First %1 of %2: %2 ÷ %3 = %4. Then %5 is %6 lots of %4: %7.</source>
-        <translation>D&apos;abord %1 de %2 : %2 ÷ %3 = %4. Puis %5, c&apos;est %6 fois %4 : %7.</translation>
+        <translation>D&apos;abord %1 de %2&#xa0;: %2 ÷ %3 = %4. Puis %5, c&apos;est %6 fois %4&#xa0;: %7.</translation>
     </message>
 </context>
 <context>
@@ -709,7 +737,7 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>your answer: %1</source>
-        <translation>ta réponse : %1</translation>
+        <translation>ta réponse&#xa0;: %1</translation>
     </message>
     <message>
         <source>Share the number into the equal boxes of the bar.</source>
@@ -1141,6 +1169,16 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
             <numerusform>%1 %2</numerusform>
             <numerusform>%1 %2</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>point %1</source>
+        <comment>a decimal read aloud: point five</comment>
+        <translation>point %1</translation>
+    </message>
+    <message>
+        <source>%1 point %2</source>
+        <comment>a decimal read aloud: three point four five</comment>
+        <translation>%1 point %2</translation>
     </message>
 </context>
 <context>
@@ -1800,19 +1838,19 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>You must choose some pictures!</source>
-        <translation>Tu dois choisir des images !</translation>
+        <translation>Tu dois choisir des images&#xa0;!</translation>
     </message>
     <message>
         <source>%1 %2 in %3 equal groups is %4 in each group.</source>
-        <translation>%1 %2 en %3 groupes égaux : %4 par groupe.</translation>
+        <translation>%1 %2 en %3 groupes égaux&#xa0;: %4 par groupe.</translation>
     </message>
     <message>
         <source>%1 is 1 group: %2 %3.</source>
-        <translation>%1, c&apos;est 1 groupe : %2 %3.</translation>
+        <translation>%1, c&apos;est 1 groupe&#xa0;: %2 %3.</translation>
     </message>
     <message>
         <source>%1 is %4 groups: %2 %3.</source>
-        <translation>%1, c&apos;est %4 groupes : %2 %3.</translation>
+        <translation>%1, c&apos;est %4 groupes&#xa0;: %2 %3.</translation>
     </message>
     <message>
         <source>You have not chosen any yet.</source>
@@ -1820,15 +1858,15 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
     </message>
     <message>
         <source>You have chosen %1: that is not enough yet.</source>
-        <translation>Tu en as choisi %1 : ce n&apos;est pas encore assez.</translation>
+        <translation>Tu en as choisi %1&#xa0;: ce n&apos;est pas encore assez.</translation>
     </message>
     <message>
         <source>You have chosen %1: that is too many.</source>
-        <translation>Tu en as choisi %1 : c&apos;est trop.</translation>
+        <translation>Tu en as choisi %1&#xa0;: c&apos;est trop.</translation>
     </message>
     <message>
         <source>You have chosen %1: that is just right!</source>
-        <translation>Tu en as choisi %1 : c&apos;est exactement ça !</translation>
+        <translation>Tu en as choisi %1&#xa0;: c&apos;est exactement ça&#xa0;!</translation>
     </message>
 </context>
 <context>
@@ -2068,6 +2106,48 @@ Partitude cherche ses images dans le dossier&#xa0;:
     </message>
 </context>
 <context>
+    <name>Rounding</name>
+    <message>
+        <source>Round %1 to the nearest whole number.</source>
+        <translation>Arrondis %1 au nombre entier le plus proche.</translation>
+    </message>
+    <message>
+        <source>Round %1 to one decimal place.</source>
+        <translation>Arrondis %1 à une décimale.</translation>
+    </message>
+    <message>
+        <source>Round %1 to two decimal places.</source>
+        <translation>Arrondis %1 à deux décimales.</translation>
+    </message>
+    <message>
+        <source>%1 rounded to the nearest whole number is %2.</source>
+        <translation>%1 arrondi au nombre entier le plus proche donne %2.</translation>
+    </message>
+    <message>
+        <source>%1 rounded to one decimal place is %2.</source>
+        <translation>%1 arrondi à une décimale donne %2.</translation>
+    </message>
+    <message>
+        <source>%1 rounded to two decimal places is %2.</source>
+        <translation>%1 arrondi à deux décimales donne %2.</translation>
+    </message>
+    <message>
+        <source>Look at the digit after the place you round to: %1 is 5 or more, so round up to %2.</source>
+        <translation>Regarde le chiffre après le rang où tu arrondis&#xa0;: %1 est 5 ou plus, alors arrondis au-dessus, à %2.</translation>
+    </message>
+    <message>
+        <source>Look at the digit after the place you round to: %1 is less than 5, so round down to %2.</source>
+        <translation>Regarde le chiffre après le rang où tu arrondis&#xa0;: %1 est moins que 5, alors arrondis au-dessous, à %2.</translation>
+    </message>
+</context>
+<context>
+    <name>RoundingBoard</name>
+    <message>
+        <source>Round each number as it asks. The number line shows the two numbers it lies between.</source>
+        <translation>Arrondis chaque nombre comme demandé. La droite graduée montre les deux nombres qui l&apos;entourent.</translation>
+    </message>
+</context>
+<context>
     <name>ShapeBoard</name>
     <message>
         <source>part %1 of %2, %3</source>
@@ -2168,6 +2248,33 @@ Partitude cherche ses images dans le dossier&#xa0;:
     <message>
         <source>Partitude title picture</source>
         <translation>image titre de Partitude</translation>
+    </message>
+</context>
+<context>
+    <name>TypedDecimal</name>
+    <message>
+        <source>Type a point for a decimal, not a comma.</source>
+        <translation>Tape un point pour un nombre décimal, pas une virgule.</translation>
+    </message>
+    <message>
+        <source>Type only digits and a point.</source>
+        <translation>Tape seulement des chiffres et un point.</translation>
+    </message>
+    <message>
+        <source>Type a number in the box first!</source>
+        <translation>Écris d&apos;abord un nombre dans la case&#xa0;!</translation>
+    </message>
+    <message>
+        <source>A number has only one point.</source>
+        <translation>Un nombre n&apos;a qu&apos;un seul point.</translation>
+    </message>
+    <message>
+        <source>That number is too long.</source>
+        <translation>Ce nombre est trop long.</translation>
+    </message>
+    <message>
+        <source>Write the number without a 0 in front.</source>
+        <translation>Écris le nombre sans 0 devant.</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,10 @@
 #include "activities/amounts/y6fract5.h"
 #include "activities/digits/digitsboard.h"
 #include "activities/digits/y6fract6.h"
+#include "activities/decimals/betweenboard.h"
+#include "activities/decimals/roundingboard.h"
+#include "activities/decimals/y6fract2.h"
+#include "activities/decimals/y6fract7.h"
 #include "activities/halves/y2fractions.h"
 #include "activities/halvesnumbers/picturesboard.h"
 #include "activities/halvesnumbers/y2fractions3.h"
@@ -91,12 +95,12 @@ const QVector<Row>& all()
         {"y5Intro2", "Command5", QT_TRANSLATE_NOOP("Activities", "Improper Fractions To Mixed Numbers"), "y5fract7", kEither, MixedModes::make<MixedModes::kToMixed>, nullptr, MixedModes::sheet<MixedModes::kToMixed>},
 
         {"y6Intro", "Command2", kBothWays, "y6fract1", kEither, MixedModes::make<MixedModes::kYearSix>, nullptr, MixedModes::sheet<MixedModes::kYearSix>},
-        {"y6Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Decimals Between"), "y6fract2", kEither},
+        {"y6Intro", "Command3", QT_TRANSLATE_NOOP("Activities", "Decimals Between"), "y6fract2", kEither, make<y6fract2>, nullptr, BetweenBoard::worksheet},
         {"y6Intro", "Command1", QT_TRANSLATE_NOOP("Activities", "Place In Order"), "Y6fract3", kEither, make<Y6fract3>, "y6fracprint3"},
         {"y6Intro", "Command5", QT_TRANSLATE_NOOP("Activities", "How Many?"), "y6fract4", kEither, make<y6fract4>, nullptr, HowManyBoard::worksheet},
         {"y6Intro", "Command6", QT_TRANSLATE_NOOP("Activities", "Finding Amounts"), "y6fract5", kEither, make<y6fract5>, nullptr, AmountsBoard::worksheet},
         {"y6Intro", "Command7", QT_TRANSLATE_NOOP("Activities", "Digits"), "y6fract6", kEither, make<y6fract6>, nullptr, DigitsBoard::worksheet},
-        {"y6Intro", "Command8", QT_TRANSLATE_NOOP("Activities", "Rounding"), "y6fract7", kEither},
+        {"y6Intro", "Command8", QT_TRANSLATE_NOOP("Activities", "Rounding"), "y6fract7", kEither, make<y6fract7>, nullptr, RoundingBoard::worksheet},
     };
     return rows;
 }

@@ -26,8 +26,8 @@ struct Row {
     const char* title;  // "Halves and Quarters 1", beside the button and on the certificate
     const char* screen; // the screen it opens
     Prompt prompt = Prompt::EitherTenOrTwenty;
-    // The screen, built afresh; nullptr while the activity is not built yet
-    // (its button then opens the "coming soon" screen).
+    // The screen, built afresh; nullptr only on a row whose button opens a
+    // sub-menu.
     Form* (*make)() = nullptr;
     // A designed worksheet's print form ("y2fracprint1"); nullptr when the
     // worksheet is generated from the activity's own questions.

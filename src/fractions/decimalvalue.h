@@ -15,8 +15,20 @@ public:
     // character, and text with no digits is 0. Places beyond the ninth are
     // dropped; whole parts beyond 999,999,999 are held at that.
     static DecimalValue fromText(const QString& text);
+    // `count` units of the given place: fromUnits(345, 2) is 3.45,
+    // fromUnits(7, 0) is 7 (places 0..9).
+    static DecimalValue fromUnits(std::int64_t count, int places);
     // The shortest text of the value: "3.47", "3", "-0.5", "0".
     QString toText() const;
+    // The value written with exactly `places` places, dropping any further
+    // digits: "3.40" for 3.4 with 2, "5" for 5 with 0.
+    QString toFixed(int places) const;
+    // The value cut after `places` places (towards zero), and rounded to
+    // them with a half rounded up, away from zero: 2.5 to 0 places is 3.
+    DecimalValue truncated(int places) const;
+    DecimalValue rounded(int places) const;
+    // The digit at a place after the point (1 the tenths, 2 the hundredths).
+    int digitAt(int place) const;
 
     bool isZero() const { return m_billionths == 0; }
     std::int64_t billionths() const { return m_billionths; }

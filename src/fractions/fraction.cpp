@@ -1,6 +1,8 @@
 #include "fraction.h"
 
 #include <QCoreApplication>
+#include <QStringList>
+#include <algorithm>
 #include <cstdlib>
 #include <numeric>
 
@@ -125,6 +127,32 @@ QString translated(const char* text, int n = -1)
 QString numberWord(int n)
 {
     return n >= 0 && n <= kLargestNumberWord ? translated(kNumbers[n]) : QString::number(n);
+}
+
+QString decimalWords(const QString& written)
+{
+    const int point = int(written.indexOf(QLatin1Char('.')));
+    const QString whole = point < 0 ? written : written.left(point);
+    const QString after = point < 0 ? QString() : written.mid(point + 1);
+    const auto allDigits = [](const QString& s) {
+        return std::all_of(s.begin(), s.end(), [](QChar c) { return c.isDigit() && c.unicode() < 0x80; });
+    };
+    if (!allDigits(whole) || !allDigits(after) || (whole.isEmpty() && after.isEmpty()))
+        return written;
+    // A whole part too long for a number word is read in figures.
+    constexpr int kLongestWordedWhole = 2;
+    const QString wholeWords
+        = whole.size() <= kLongestWordedWhole && !whole.isEmpty() ? numberWord(whole.toInt()) : whole;
+    if (after.isEmpty()) // "3" or "3."
+        return wholeWords;
+    QStringList digits;
+    for (const QChar c : after)
+        digits << numberWord(c.digitValue());
+    const QString tail = digits.join(QLatin1Char(' '));
+    if (whole.isEmpty())
+        return QCoreApplication::translate("Fractions", "point %1", "a decimal read aloud: point five").arg(tail);
+    return QCoreApplication::translate("Fractions", "%1 point %2", "a decimal read aloud: three point four five")
+        .arg(wholeWords, tail);
 }
 
 QString capitalised(QString text)

@@ -65,6 +65,11 @@ QString partName(int bottom);
 QString partsName(int bottom);
 // A whole number in words up to twenty ("three"), in figures beyond.
 QString numberWord(int n);
+// A decimal read aloud as it is written, a point and each digit after it:
+// "3.45" is "three point four five", "4.70" "four point seven zero", ".5"
+// "point five"; a whole number reads as numberWord() does. Text that is not
+// digits with at most one point is given back as it is.
+QString decimalWords(const QString& written);
 // The text with its first letter a capital, to start a sentence.
 QString capitalised(QString text);
 

@@ -1,6 +1,5 @@
 #include "activitymenu.h"
 
-#include "comingsoon.h"
 #include "menulook.h"
 #include "runtime/formtimer.h"
 #include "runtime/forms.h"
@@ -152,14 +151,7 @@ void ActivityMenu::open(const Activities::Row& activity)
     }
     Module1::challenge = 0;
     const QString screen = QString::fromLatin1(activity.screen);
-    Form* target = nullptr;
-    if (Forms::isRegistered(screen)) {
-        target = Forms::load(screen);
-    } else {
-        auto* soon = Forms::load<Comingsoon>();
-        soon->setActivity(Activities::titleText(activity), objectName());
-        target = soon;
-    }
+    Form* target = Forms::load(screen);
     if (auto* prompt = target->findChild<QLabel*>(QStringLiteral("Label6")))
         prompt->setText(Activities::promptText(activity.prompt));
     target->setWindowTitle(Label1->text());

@@ -4,7 +4,6 @@
 #include "activities/ordering/orderhelp.h"
 #include "form1.h"
 #include "menus/activitymenu.h"
-#include "menus/comingsoon.h"
 #include "menus/year.h"
 #include "rewards/grey.h"
 #include "rewards/reward.h"
@@ -31,7 +30,6 @@ void registerScreens()
     add<y5Intro>();
     add<y5Intro2>();
     add<y6Intro>();
-    add<Comingsoon>();
     add<Grey>();
     add<Reward>();
     add<Welldone>();

@@ -3,6 +3,7 @@
 #include "kit/parts/drawingstyle.h"
 #include "kit/parts/fractionwall.h"
 #include "kit/parts/numberline.h"
+#include "fractions/fraction.h"
 #include "kit/parts/picturerows.h"
 #include "paintrecorder.h"
 #include "runtime/pictures.h"
@@ -237,9 +238,12 @@ private slots:
         line.mark(c.mark);
         if (!c.toRound.isEmpty())
             line.markToRound(c.toRound);
-        const QString rounding = c.toRound.isEmpty() ? QString() : QStringLiteral(", %1 to round").arg(c.toRound);
-        QCOMPARE(line.accessibleName(),
-                 QStringLiteral("a number line from %1 to %2%3, %4 marked").arg(c.from, c.to, rounding, c.mark));
+        using Fractions::decimalWords;
+        const QString rounding
+            = c.toRound.isEmpty() ? QString() : QStringLiteral(", %1 to round").arg(decimalWords(c.toRound));
+        QCOMPARE(line.accessibleName(), QStringLiteral("a number line from %1 to %2%3, %4 marked")
+                                            .arg(decimalWords(c.from), decimalWords(c.to), rounding,
+                                                 decimalWords(c.mark)));
         const double step = line.tickX(1) - line.tickX(0), x = line.positionOf(c.mark);
         if (c.tenths < 0)
             QVERIFY(x < line.tickX(0) - step / 2 && x > 0);

@@ -7,7 +7,6 @@
 #include "player.h"
 
 #include "kit/run.h"
-#include "menus/comingsoon.h"
 #include "shell/module1.h"
 
 #include <QLabel>
@@ -113,12 +112,12 @@ void TestRandomPlay::invariantsCatchTheirFaults_data()
         exit->move(menu->width() - exit->width() / 2, exit->y());
     }) << QStringLiteral("stands outside its screen");
     QTest::newRow("nothing to use") << Fault([] {
-        Form* soon = Forms::show(QStringLiteral("Comingsoon"));
-        for (QWidget* control : soon->findChildren<QWidget*>())
+        Form* menu = Forms::show(QStringLiteral("y3Intro"));
+        for (QWidget* control : menu->findChildren<QWidget*>())
             control->setEnabled(false);
-        for (QTimer* timer : soon->findChildren<QTimer*>())
+        for (QTimer* timer : menu->findChildren<QTimer*>())
             timer->stop();
-    }) << QStringLiteral("Comingsoon has nothing the child can use");
+    }) << QStringLiteral("y3Intro has nothing the child can use");
 }
 
 void TestRandomPlay::invariantsCatchTheirFaults()

@@ -24,7 +24,6 @@ const Row kRows[] = {
     {"year menu goes through its door", nullptr, nullptr, "Year", "Titlefrm"},
     {"activity menu says Goodbye", nullptr, nullptr, "y2Intro", "Year"},
     {"second Year 5 menu says Goodbye", nullptr, nullptr, "y5Intro2", "y5Intro"},
-    {"coming soon says Goodbye", "y6Intro", "Command3", "Comingsoon", "y6Intro"},
     {"ordering help closes", "Y6fract3", nullptr, "orderhelp", "Y6fract3"},
     {"certificate leaves as its door", "Y6fract3", nullptr, "Welldone", "Y6fract3"},
     {"retry screen closes", "Y6fract3", nullptr, "Reward", "Y6fract3"},

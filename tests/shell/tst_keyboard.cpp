@@ -30,7 +30,6 @@ const Screen kScreens[] = {
     {"Titlefrm", nullptr, nullptr, "Titlefrm", "Command1,Command2"},
     {"Form1", nullptr, nullptr, "Year", "Command1,Check2"},
     {"Year", nullptr, nullptr, "Titlefrm", "Command5,Command2,Command3,Command6,Command1,Check1,Command4"},
-    {"Comingsoon", "y6Intro", "Command3", "y6Intro", "cmdexit"},
     {"Grey", nullptr, nullptr, nullptr, ""},
     {"Reward", "Y6fract3", nullptr, "Y6fract3", ""},
     {"Welldone", "Y6fract3", nullptr, "Y6fract3", "Text1,Command2,cmdexit"},

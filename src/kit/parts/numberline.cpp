@@ -2,6 +2,7 @@
 
 #include "drawingstyle.h"
 #include "fractions/decimalvalue.h"
+#include "fractions/fraction.h"
 
 #include <QPainter>
 #include <algorithm>
@@ -251,11 +252,13 @@ void NumberLine::describe()
         setAccessibleName(tr("a number line"));
         return;
     }
-    QString text = tr("a number line from %1 to %2").arg(m_from, m_to);
+    // Numbers are read aloud as words: "three point four".
+    using Fractions::decimalWords;
+    QString text = tr("a number line from %1 to %2").arg(decimalWords(m_from), decimalWords(m_to));
     if (!m_toRound.isEmpty())
-        text = tr("%1, %2 to round").arg(text, m_toRound);
+        text = tr("%1, %2 to round").arg(text, decimalWords(m_toRound));
     if (!m_mark.isEmpty())
-        text = tr("%1, %2 marked").arg(text, m_mark);
+        text = tr("%1, %2 marked").arg(text, decimalWords(m_mark));
     setAccessibleName(text);
 }
 
