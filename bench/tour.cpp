@@ -19,6 +19,7 @@
 #include "activities/activitytable.h"
 #include "runtime/msgbox.h"
 #include "runtime/options.h"
+#include "runtime/pictures.h"
 #include "runtime/printtarget.h"
 #include "runtime/random.h"
 #include "runtime/sound.h"
@@ -258,6 +259,9 @@ int main(int argc, char* argv[])
     for (int round = 1; round <= rounds; ++round)
         tour.round(round == rounds);
     quiet();
+    const double heap = Timings::heapMiB();
+    Pictures::clearCache();
+    timings.notePictureHeap(heap - Timings::heapMiB());
     timings.printTable(rounds, pdfCount(pdfs.path()));
     return timings.allPass() ? 0 : 1;
 }

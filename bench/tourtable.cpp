@@ -23,27 +23,22 @@ const char* const kKindNames[Timings::KindCount] = {
 };
 constexpr int kTitleWidth = 40;
 
-// VmHWM of this process in MiB, 0 if unknown.
-double peakMiB()
+// A figure of this process's /proc/self/status ("VmHWM") in MiB, 0 if unknown.
+double statusMiB(const QByteArray& field)
 {
     QFile status(QStringLiteral("/proc/self/status"));
     if (!status.open(QIODevice::ReadOnly))
         return 0;
+    const QByteArray key = field + ':';
     for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').value(0).toDouble() / kKiBPerMiB;
+        if (line.startsWith(key))
+            return line.mid(key.size()).trimmed().split(' ').value(0).toDouble() / kKiBPerMiB;
     return 0;
 }
 
-// The heap in use (glibc's own count), in MiB; 0 if unknown.
-double heapMiB()
+double peakMiB()
 {
-#if defined(__GLIBC__)
-    const struct mallinfo2 info = mallinfo2();
-    return (double(info.uordblks) + double(info.hblkhd)) / kBytesPerMiB;
-#else
-    return 0;
-#endif
+    return statusMiB("VmHWM");
 }
 
 QByteArray cell(double median, double worst)
@@ -57,6 +52,16 @@ const char* verdict(bool pass)
 }
 
 } // namespace
+
+double Timings::heapMiB()
+{
+#if defined(__GLIBC__)
+    const struct mallinfo2 info = mallinfo2();
+    return (double(info.uordblks) + double(info.hblkhd)) / kBytesPerMiB;
+#else
+    return 0;
+#endif
+}
 
 QString Timings::menuChange(const QString& from, const QString& to)
 {
@@ -150,6 +155,12 @@ void Timings::printTable(int rounds, int pdfsPrinted) const
     const double peak = peakMiB();
     std::printf("%-44s %10.1f MiB  < %.0f MiB  %s\n", "peak memory after the tour (VmHWM)", peak, kMostPeakMiB,
                 verdict(peak < kMostPeakMiB));
-    std::printf("%-44s %10.1f MiB\n", "heap in use at the end (mallinfo2)", heapMiB());
+    std::printf("%-44s %10.1f MiB, %.1f of it decoded pictures\n", "heap in use at the end (mallinfo2)",
+                heapMiB() + m_pictureHeapMiB, m_pictureHeapMiB);
+    // What the resident memory is at the end: the process's own (heap,
+    // decoded pictures), mapped files (libraries, fonts) and shared memory
+    // (the windows' images, shared with the X server).
+    std::printf("%-44s %10.1f MiB = %.1f own + %.1f files + %.1f shared\n", "resident at the end (VmRSS)",
+                statusMiB("VmRSS"), statusMiB("RssAnon"), statusMiB("RssFile"), statusMiB("RssShmem"));
     std::printf("%-44s %10d\n", "worksheets printed to PDF", pdfsPrinted);
 }

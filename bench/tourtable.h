@@ -20,6 +20,11 @@ public:
     // From startProgram to the title screen drawn, for information (the
     // first frame's target is against a bare window, in bench/run.sh).
     void noteStart(double ms) { m_startMs = ms; }
+    // The heap the decoded pictures held at the end, for information.
+    void notePictureHeap(double mib) { m_pictureHeapMiB = mib; }
+
+    // The heap in use (glibc's own count), in MiB; 0 if unknown.
+    static double heapMiB();
 
     void add(const QString& label, double ms);
 
@@ -43,4 +48,5 @@ private:
     QHash<QString, QVector<double>> m_samples;
     QHash<QString, QString> m_titles;
     double m_startMs = 0;
+    double m_pictureHeapMiB = 0;
 };
