@@ -138,28 +138,29 @@ private:
     {
         const QString menu = QString::fromLatin1(row.menu);
         const QString screen = QString::fromLatin1(row.screen);
-        const QString title = screen;
         m_timings.nameActivity(screen, Activities::titleText(row));
-        click(menu, row.button, screen, Timings::activityChange(title, Timings::Open));
+        click(menu, row.button, screen, Timings::activityChange(screen, Timings::Open));
         answerRun(row);
         // The certificate's exit: back to the activity, or to the menu when
         // a won Challenge took the activity away.
         const auto back = [&] { return onShow(screen) ? screen : menu; };
-        m_timings.add(Timings::activityChange(title, Timings::CertificateBack),
+        m_timings.add(Timings::activityChange(screen, Timings::CertificateBack),
                       *clickAndTime(kCertificate, "cmdexit", back));
         if (!onShow(screen))
             return;
         if (m_printing)
             print(row);
-        click(screen, "cmdexit", menu, Timings::activityChange(title, Timings::Exit));
+        click(screen, "cmdexit", menu, Timings::activityChange(screen, Timings::Exit));
     }
 
     // Answers the questions rightly until the certificate shows, timing each
-    // answer until the praise (or the certificate) is drawn.
+    // answer until the praise (or the certificate) is drawn. The clock starts
+    // as giveRightAnswer() puts the answer on the board and runs Check's
+    // handler, so it includes putting the answer; Check is not clicked
+    // through the window.
     void answerRun(const Activities::Row& row)
     {
         const QString screen = QString::fromLatin1(row.screen);
-        const QString& title = screen;
         auto* form = static_cast<ActivityForm*>(Forms::find(screen));
         int idle = 0;
         for (int step = 0; step < kMostStepsPerRun; ++step) {
@@ -171,7 +172,7 @@ private:
             });
             if (ms) {
                 const bool done = onShow(kCertificate);
-                m_timings.add(Timings::activityChange(title, done ? Timings::Certificate : Timings::Praise), *ms);
+                m_timings.add(Timings::activityChange(screen, done ? Timings::Certificate : Timings::Praise), *ms);
                 if (done)
                     return;
                 idle = 0;
