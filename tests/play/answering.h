@@ -67,6 +67,24 @@ public:
         return parts.join(QStringLiteral(", "));
     }
 
+    // Every running timer of the loaded screens ticks once; false if none runs.
+    static bool tickRunningTimers()
+    {
+        QList<QPointer<FormTimer>> running;
+        for (const QString& name : Forms::loadedNames())
+            if (Form* form = Forms::find(name))
+                for (FormTimer* timer : form->findChildren<FormTimer*>())
+                    if (timer->isActive())
+                        running << timer;
+        for (const QPointer<FormTimer>& timer : running) {
+            if (timer && timer->isActive()) {
+                QTimerEvent tick(timer->timerId());
+                QCoreApplication::sendEvent(timer, &tick);
+            }
+        }
+        return !running.isEmpty();
+    }
+
 private:
     bool next()
     {
@@ -94,24 +112,6 @@ private:
         if (form->cmdstart->isEnabled())
             form->cmdstart->click();
         return false;
-    }
-
-    // Every running timer of the loaded screens ticks once.
-    static bool tickRunningTimers()
-    {
-        QList<QPointer<FormTimer>> running;
-        for (const QString& name : Forms::loadedNames())
-            if (Form* form = Forms::find(name))
-                for (FormTimer* timer : form->findChildren<FormTimer*>())
-                    if (timer->isActive())
-                        running << timer;
-        for (const QPointer<FormTimer>& timer : running) {
-            if (timer && timer->isActive()) {
-                QTimerEvent tick(timer->timerId());
-                QCoreApplication::sendEvent(timer, &tick);
-            }
-        }
-        return !running.isEmpty();
     }
 
     const Activities::Row& m_row;

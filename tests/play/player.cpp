@@ -61,25 +61,9 @@ const Key kKeys[] = {
 constexpr int kKeyCount = int(sizeof(kKeys) / sizeof(kKeys[0]));
 constexpr int kDigitsAndLetters = 36;
 
-// The windows on show, in a fixed order: the order they were made in.
-// A click and a key as the window system delivers them. QTest's own
-// QWindow clicks and keys also run the event loop afterwards, where a timer
-// whose interval has passed on the clock would tick: that would make a
-// seed's play depend on how fast the machine is.
+// Clicks and keys as the window system delivers them.
 int g_clock = 0;
 constexpr int kEventGapMs = 1000; // never a double click
-
-void deliverClick(QWindow* target, const QPoint& at)
-{
-    const QPointer<QWindow> window(target);
-    const QPointF local(at);
-    const QPointF global = window->mapToGlobal(at);
-    g_clock += kEventGapMs;
-    qt_handleMouseEvent(window, local, global, Qt::LeftButton, Qt::LeftButton, QEvent::MouseButtonPress, Qt::NoModifier, g_clock);
-    g_clock += kEventGapMs;
-    if (window) // the press may have taken the window away
-        qt_handleMouseEvent(window, local, global, Qt::NoButton, Qt::LeftButton, QEvent::MouseButtonRelease, Qt::NoModifier, g_clock);
-}
 
 void deliverKey(QWindow* window, int key, Qt::KeyboardModifiers modifiers, const QString& text)
 {
@@ -87,6 +71,7 @@ void deliverKey(QWindow* window, int key, Qt::KeyboardModifiers modifiers, const
     qt_handleKeyEvent(window, QEvent::KeyRelease, key, modifiers, text);
 }
 
+// The windows on show, in a fixed order: the order they were made in.
 QWidgetList windowsOnShow()
 {
     QWidgetList windows;
@@ -136,6 +121,21 @@ void keepWarnings(QtMsgType type, const QMessageLogContext& context, const QStri
 }
 
 } // namespace
+
+// QTest's own QWindow clicks also run the event loop afterwards, where a
+// timer whose interval has passed on the clock would tick: that would make a
+// seed's play depend on how fast the machine is.
+void deliverClick(QWindow* target, const QPoint& at)
+{
+    const QPointer<QWindow> window(target);
+    const QPointF local(at);
+    const QPointF global = window->mapToGlobal(at);
+    g_clock += kEventGapMs;
+    qt_handleMouseEvent(window, local, global, Qt::LeftButton, Qt::LeftButton, QEvent::MouseButtonPress, Qt::NoModifier, g_clock);
+    g_clock += kEventGapMs;
+    if (window) // the press may have taken the window away
+        qt_handleMouseEvent(window, local, global, Qt::NoButton, Qt::LeftButton, QEvent::MouseButtonRelease, Qt::NoModifier, g_clock);
+}
 
 Player::Player(std::uint64_t seed)
     : m_rnd(seed)

@@ -20,8 +20,13 @@
 
 class QPoint;
 class QWidget;
+class QWindow;
 
 namespace Play {
+
+// A left click at `at` in the window, delivered as the window system
+// delivers one (press and release, handled before it returns).
+void deliverClick(QWindow* target, const QPoint& at);
 
 // Stands in for the browser: the publisher's site is noted, never opened.
 class SiteCatcher : public QObject {
