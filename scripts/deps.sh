@@ -7,7 +7,7 @@ set -euo pipefail
 packages=(cmake g++ make qt6-base-dev qt6-svg-dev qt6-multimedia-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
           libgif-dev fonts-liberation2 fonts-noto-color-emoji poppler-utils xvfb xauth
           dbus-daemon dbus-bin at-spi2-core python3-gi gir1.2-atspi-2.0
-          clang libclang-rt-14-dev)
+          clang libclang-rt-14-dev desktop-file-utils appstream help2man)
 
 missing=()
 if command -v dpkg-query >/dev/null 2>&1; then

@@ -1939,21 +1939,29 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
         <source>Partitude cannot go on: the picture file &quot;%1&quot; is missing or cannot be read.
 
 Partitude looks for its pictures in the folder:
-%2</source>
+%2
+
+To use pictures in another folder, start Partitude with %3 and that folder.</source>
         <translation>Partitude cannot go on: the picture file &quot;%1&quot; is missing or cannot be read.
 
 Partitude looks for its pictures in the folder:
-%2</translation>
+%2
+
+To use pictures in another folder, start Partitude with %3 and that folder.</translation>
     </message>
     <message>
         <source>Partitude cannot go on: the picture file &quot;%1&quot; cannot be read: %2.
 
 Partitude looks for its pictures in the folder:
-%3</source>
+%3
+
+To use pictures in another folder, start Partitude with %4 and that folder.</source>
         <translation>Partitude cannot go on: the picture file &quot;%1&quot; cannot be read: %2.
 
 Partitude looks for its pictures in the folder:
-%3</translation>
+%3
+
+To use pictures in another folder, start Partitude with %4 and that folder.</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2228,18 @@ Partitude looks for its pictures in the folder:
         <source>Partitude needs a display and found none; without one, run it under Xvfb: %1
 </source>
         <translation>Partitude needs a display and found none; without one, run it under Xvfb: %1
+</translation>
+    </message>
+    <message>
+        <source>Partitude did not reach its title screen.
+</source>
+        <translation>Partitude did not reach its title screen.
+</translation>
+    </message>
+    <message>
+        <source>Partitude reached its title screen (%1).
+</source>
+        <translation>Partitude reached its title screen (%1).
 </translation>
     </message>
 </context>

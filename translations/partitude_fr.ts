@@ -1939,21 +1939,29 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
         <source>Partitude cannot go on: the picture file &quot;%1&quot; is missing or cannot be read.
 
 Partitude looks for its pictures in the folder:
-%2</source>
+%2
+
+To use pictures in another folder, start Partitude with %3 and that folder.</source>
         <translation>Partitude ne peut pas continuer&#xa0;: le fichier d&apos;image «&#xa0;%1&#xa0;» est absent ou illisible.
 
 Partitude cherche ses images dans le dossier&#xa0;:
-%2</translation>
+%2
+
+Pour prendre les images d&apos;un autre dossier, lancez Partitude avec %3 suivi de ce dossier.</translation>
     </message>
     <message>
         <source>Partitude cannot go on: the picture file &quot;%1&quot; cannot be read: %2.
 
 Partitude looks for its pictures in the folder:
-%3</source>
+%3
+
+To use pictures in another folder, start Partitude with %4 and that folder.</source>
         <translation>Partitude ne peut pas continuer&#xa0;: le fichier d&apos;image «&#xa0;%1&#xa0;» est illisible&#xa0;: %2.
 
 Partitude cherche ses images dans le dossier&#xa0;:
-%3</translation>
+%3
+
+Pour prendre les images d&apos;un autre dossier, lancez Partitude avec %4 suivi de ce dossier.</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2228,18 @@ Partitude cherche ses images dans le dossier&#xa0;:
         <source>Partitude needs a display and found none; without one, run it under Xvfb: %1
 </source>
         <translation>Partitude a besoin d&apos;un écran et n&apos;en a trouvé aucun&#xa0;; sans écran, lancez-le sous Xvfb&#xa0;: %1
+</translation>
+    </message>
+    <message>
+        <source>Partitude did not reach its title screen.
+</source>
+        <translation>Partitude n&apos;a pas atteint son écran de titre.
+</translation>
+    </message>
+    <message>
+        <source>Partitude reached its title screen (%1).
+</source>
+        <translation>Partitude a atteint son écran de titre (%1).
 </translation>
     </message>
 </context>

@@ -11,8 +11,11 @@
 #include <cstdio>
 #include <cstdlib>
 
-#ifndef PARTITUDE_INSTALLED_ASSETS
-#define PARTITUDE_INSTALLED_ASSETS ""
+// The installed data folder, relative to the installed executable's folder
+// ("../share/partitude/assets"), so an installed tree works under any prefix,
+// staged or moved.
+#ifndef PARTITUDE_RELATIVE_ASSETS
+#define PARTITUDE_RELATIVE_ASSETS "../share/partitude/assets"
 #endif
 
 namespace {
@@ -36,8 +39,13 @@ struct Parser {
                            QCoreApplication::translate("Options", "Print every page to a new PDF file in DIR instead of the printer."),
                            QCoreApplication::translate("Options", "DIR")};
 
+    // For checking an installed program where no one watches: it starts,
+    // shows the title screen, says so on stdout and ends. Not in the help.
+    QCommandLineOption checkTitle{QStringLiteral("check-title"), QString()};
+
     Parser()
     {
+        checkTitle.setFlags(QCommandLineOption::HiddenFromHelp);
         parser.setApplicationDescription(QCoreApplication::translate("Options", "Partitude: fractions practice and Challenges for Years 2 to 6."));
         parser.addHelpOption();
         parser.addVersionOption();
@@ -46,6 +54,7 @@ struct Parser {
         parser.addOption(pdf);
         parser.addOption(scale);
         parser.addOption(fullScreen);
+        parser.addOption(checkTitle);
     }
 
     // The scale asked for, 0 when none was; a refused one ends the program.
@@ -69,6 +78,7 @@ struct Parser {
         o.settingsFolder = parser.isSet(settings) ? parser.value(settings) : defaultSettingsFolder();
         o.pdfFolder = parser.value(pdf);
         o.fullScreen = parser.isSet(fullScreen);
+        o.checkTitle = parser.isSet(checkTitle);
         return o;
     }
 };
@@ -129,11 +139,11 @@ std::optional<double> parseScale(const QString& text, QString* reason)
 
 QString defaultAssetFolder()
 {
-    const QString beside = QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("assets"));
-    const QString installed = QString::fromUtf8(PARTITUDE_INSTALLED_ASSETS);
-    if (QFileInfo(beside).isDir() || installed.isEmpty() || !QFileInfo(installed).isDir())
-        return beside;
-    return installed;
+    const QDir programFolder(QCoreApplication::applicationDirPath());
+    const QString beside = programFolder.filePath(QStringLiteral("assets"));
+    if (QFileInfo(beside).isDir())
+        return beside; // the build tree
+    return QDir::cleanPath(programFolder.filePath(QStringLiteral(PARTITUDE_RELATIVE_ASSETS)));
 }
 
 QString defaultSettingsFolder()

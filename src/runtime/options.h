@@ -13,6 +13,7 @@ struct StartOptions {
     QString pdfFolder;      // empty: print to the default printer
     double scale = 0.0;     // 0: picked to suit the display
     bool fullScreen = false;
+    bool checkTitle = false; // show the title screen, say so and end (install checks)
 };
 
 // Reads the number of --scale: a decimal number above 0 and at most
@@ -27,6 +28,7 @@ StartOptions parseCommandLine(const QCoreApplication& app);
 constexpr int kUsageExitCode = 2;
 StartOptions parseArguments(const QStringList& arguments);
 
-// The first of: beside the executable, the installed data folder.
+// "assets" beside the executable where there is one (the build tree),
+// otherwise the installed data folder found from the executable's folder.
 QString defaultAssetFolder();
 QString defaultSettingsFolder();

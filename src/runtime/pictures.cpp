@@ -126,6 +126,9 @@ void clearCache()
 }
 
 namespace {
+// The command-line option that names another asset folder.
+const QString kAssetsOption = QStringLiteral("--assets");
+
 // The file as the system writes it, under the asset folder: "ico/fraction.ico"
 // on Linux, "ico\fraction.ico" on Windows.
 QString nativeName(const QString& assetPath)
@@ -138,8 +141,9 @@ QString missingMessage(const QString& assetPath)
 {
     return QCoreApplication::translate("Pictures",
                                        "Partitude cannot go on: the picture file \"%1\" is missing or cannot be read.\n\n"
-                                       "Partitude looks for its pictures in the folder:\n%2")
-        .arg(nativeName(assetPath), QDir::toNativeSeparators(QDir(g_folder).absolutePath()));
+                                       "Partitude looks for its pictures in the folder:\n%2\n\n"
+                                       "To use pictures in another folder, start Partitude with %3 and that folder.")
+        .arg(nativeName(assetPath), QDir::toNativeSeparators(QDir(g_folder).absolutePath()), kAssetsOption);
 }
 
 QString refusedMessage(const QString& assetPath, const QString& reason)
@@ -147,8 +151,9 @@ QString refusedMessage(const QString& assetPath, const QString& reason)
     // The reason names bytes and records of the file, for whoever mends it.
     return QCoreApplication::translate("Pictures",
                                        "Partitude cannot go on: the picture file \"%1\" cannot be read: %2.\n\n"
-                                       "Partitude looks for its pictures in the folder:\n%3")
-        .arg(nativeName(assetPath), reason, QDir::toNativeSeparators(QDir(g_folder).absolutePath()));
+                                       "Partitude looks for its pictures in the folder:\n%3\n\n"
+                                       "To use pictures in another folder, start Partitude with %4 and that folder.")
+        .arg(nativeName(assetPath), reason, QDir::toNativeSeparators(QDir(g_folder).absolutePath()), kAssetsOption);
 }
 
 } // namespace Pictures

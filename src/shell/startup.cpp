@@ -5,6 +5,7 @@
 #include "runtime/forms.h"
 #include "runtime/fullscreen.h"
 #include "runtime/options.h"
+#include "runtime/picturebox.h"
 #include "runtime/pictures.h"
 #include "runtime/printer.h"
 #include "runtime/scaledstyle.h"
@@ -16,6 +17,7 @@
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QTimer>
 #include <cstdio>
 
 #ifndef PARTITUDE_VERSION
@@ -35,6 +37,25 @@ void nameTheProgram()
 bool displayMissing()
 {
     return DisplayProbe::probe() == DisplayProbe::Result::Missing;
+}
+
+// Exit codes of --check-title.
+constexpr int kTitleShown = 0;
+constexpr int kTitleNotShown = 4;
+
+// The title screen is up when it is shown with its first animation frame
+// (missing pictures have ended the program before this, with their message).
+int reportTitle()
+{
+    const Titlefrm* title = Forms::find<Titlefrm>();
+    if (!title || !title->isVisible() || title->Picture1->picture().isNull()) {
+        std::fputs(qPrintable(QCoreApplication::translate("Startup", "Partitude did not reach its title screen.\n")), stderr);
+        return kTitleNotShown;
+    }
+    std::fputs(qPrintable(QCoreApplication::translate("Startup", "Partitude reached its title screen (%1).\n")
+                              .arg(title->objectName())),
+               stdout);
+    return kTitleShown;
 }
 
 } // namespace
@@ -81,5 +102,7 @@ int runProgram(int argc, char* argv[])
         return kUsageExitCode;
     }
     startProgram(options);
+    if (options.checkTitle)
+        QTimer::singleShot(0, &app, [] { QCoreApplication::exit(reportTitle()); });
     return QApplication::exec();
 }
