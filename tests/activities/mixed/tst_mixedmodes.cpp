@@ -1,10 +1,9 @@
 // The mixed-numbers screen's other modes: one way only (Year 5) and Year 6's
-// larger numbers. Their questions, one played by the keyboard alone from
-// the menu, and their worksheets.
+// larger numbers. Their questions, and one played by the keyboard alone from
+// the menu.
 #include "activities/activitytable.h"
 #include "activities/mixed/y5fract4.h"
 #include "fractions/fraction.h"
-#include "sheetcheck.h"
 #include "testsupport.h"
 
 #include <QFrame>
@@ -59,7 +58,6 @@ private slots:
 
     void drawsOverManySeeds_data() { addModeColumns(); addModeRows(); }
     void oneQuestionByKeyboard_data() { addModeColumns(); addModeRows(); }
-    void worksheet_data() { addModeColumns(); addModeRows(); }
 
     // Every draw keeps to the mode's direction and ranges, a proper fraction
     // in lowest terms beside its whole number, and never comes twice in a
@@ -130,19 +128,6 @@ private slots:
         QTest::keyClick(form, Qt::Key_Escape);
         TestSupport::flushUnloads();
         QCOMPARE(TestSupport::visibleForms(), QStringList{menu});
-    }
-
-    // Print asks first, then prints 12 of the mode's questions and their answers.
-    void worksheet()
-    {
-        if (!PdfSupport::missingTool().isEmpty())
-            QSKIP("poppler-utils is not installed");
-        QFETCH(int, mode);
-        auto* form = qobject_cast<ActivityForm*>(Forms::show(QString::fromLatin1(modeOf(mode).screen)));
-        world.answer = MsgBox::Answer::Yes;
-        const auto sheet = [mode](Random::Source& rnd) { return MixedModes::worksheet(modeOf(mode), rnd); };
-        QCOMPARE(SheetCheck::printAndRead(form->cmdprint, sheet), QString());
-        QCOMPARE(world.messages.size(), 1);
     }
 };
 

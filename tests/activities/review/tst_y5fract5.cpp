@@ -1,9 +1,7 @@
 // The Year 5 review: which board poses each question, what goes to the board
-// on show and what comes back from it, one question by the keyboard alone,
-// and the worksheet.
+// on show and what comes back from it, and one question by the keyboard alone.
 #include "activities/mixed/mixedboard.h"
 #include "activities/review/y5fract5.h"
-#include "sheetcheck.h"
 #include "testsupport.h"
 
 #include <QLabel>
@@ -164,17 +162,6 @@ private slots:
         typeInTurn(next.answerNumbers());
         QCOMPARE(counter, 1);
         QCOMPARE(form->Label2->text(), praisetext + next.answerText() + QLatin1Char('.'));
-    }
-
-    // Print asks first, then prints 12 questions drawn across the boards.
-    void worksheet()
-    {
-        if (!PdfSupport::missingTool().isEmpty())
-            QSKIP("poppler-utils is not installed");
-        auto* form = qobject_cast<ActivityForm*>(Forms::show(QStringLiteral("y5fract5")));
-        world.answer = MsgBox::Answer::Yes;
-        QCOMPARE(SheetCheck::printAndRead(form->cmdprint, y5fract5::worksheet), QString());
-        QCOMPARE(world.messages.size(), 1);
     }
 };
 
