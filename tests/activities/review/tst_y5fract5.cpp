@@ -2,7 +2,7 @@
 // on show and what comes back from it, and one question by the keyboard alone.
 #include "activities/mixed/mixedboard.h"
 #include "activities/review/y5fract5.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -41,23 +41,11 @@ const QVector<ReviewBoard::Member> kProbes{
     {"Second", ReviewBoard::make<Probe>, nullptr},
 };
 
-// Each number into the box with the keyboard, then ENTER.
+// Each number into the box holding the keyboard, then ENTER.
 void typeInTurn(const QList<int>& numbers)
 {
-    for (int n : numbers) {
-        QTest::keyClicks(QApplication::focusWidget(), QString::number(n));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    }
-}
-
-y5fract5* startedFromMenu()
-{
-    Forms::show(QStringLiteral("y5Intro"))->findChild<QPushButton*>(QStringLiteral("Command6"))->click();
-    TestSupport::flushUnloads();
-    auto* form = Forms::find<y5fract5>();
-    QApplication::setActiveWindow(form);
-    QTest::keyClick(form->cmdstart, Qt::Key_Space);
-    return form;
+    for (int n : numbers)
+        ActivityTest::enter(QString::number(n));
 }
 } // namespace
 
@@ -138,7 +126,8 @@ private slots:
     // all by keys on the board on show, with its own check and hint.
     void oneQuestionByKeyboard()
     {
-        y5fract5* form = startedFromMenu();
+        y5fract5* form = nullptr;
+        QVERIFY(ActivityTest::start<ReviewBoard>(QStringLiteral("y5fract5"), &form));
         auto* board = qobject_cast<MixedBoard*>(form->review()->shown());
         QVERIFY(board);
         const MixedQuestion q = board->question();
