@@ -127,8 +127,6 @@ void TestNamingQuestions::namingVerdicts_data()
     QTest::newRow("ringed") << sets << none << 12 << 5 << "5" << "12" << right << "5/12 of the ducks are ringed.";
     QTest::newRow("ringed, wrong") << sets << none << 6 << 2 << "2" << "4" << wrong
                                    << "2/6 of the ducks are ringed: 2 of the 6 ducks.";
-    QTest::newRow("empty top") << shape << strip << 8 << 3 << "" << "8" << refused
-                               << "Type the top number and the bottom number first!";
     QTest::newRow("empty bottom") << shape << strip << 8 << 3 << "3" << "" << refused
                                   << "Type the top number and the bottom number first!";
     QTest::newRow("bottom 0") << shape << strip << 8 << 3 << "3" << "00" << refused
@@ -245,8 +243,6 @@ void TestNamingQuestions::comparingVerdicts_data()
                                   << "2/4 is equal to 1/2.";
     QTest::newRow("equal, wrong") << int(Kind::EqualPair) << QVector<int>{2, 3, 8, 12} << more << int(Verdict::Wrong)
                                   << "2/3 is equal to 8/12: multiply the top and the bottom of 2/3 by 4 to make 8/12.";
-    QTest::newRow("nothing chosen") << int(Kind::SameTop) << QVector<int>{2, 5, 2, 7} << -1 << int(Verdict::NotCheckable)
-                                    << "Choose one of the three cards first!";
 }
 
 void TestNamingQuestions::comparingVerdicts()

@@ -3,14 +3,9 @@
 #include "fractionline.h"
 #include "fractions/fraction.h"
 #include "kit/parts/answerchain.h"
-#include "runtime/twips.h"
 
 #include <QCoreApplication>
 #include <QLineEdit>
-
-namespace {
-constexpr double kBoxPoints = 24; // until the line sizes the boxes to its numbers
-} // namespace
 
 CancelBoard::CancelBoard(QWidget* parent)
     : KitBoard(parent)
@@ -19,13 +14,8 @@ CancelBoard::CancelBoard(QWidget* parent)
 {
     setObjectName(QStringLiteral("Board"));
     Picture2->setObjectName(QStringLiteral("Picture2"));
-    AnswerBox::Options digits;
-    digits.maxLength = Cancelling::kAnswerDigits;
-    const QFont font = Twips::font(QStringLiteral("Times New Roman"), kBoxPoints, true);
-    // A top of 0 is a fraction, only a wrong one; a bottom of 0 the check refuses.
-    const bool zeroAllowed = true;
-    Text1 = m_chain->addBox(Picture2, QStringLiteral("Text1"), tr("top number"), font, digits, zeroAllowed);
-    Text2 = m_chain->addBox(Picture2, QStringLiteral("Text2"), tr("bottom number"), font, digits, zeroAllowed);
+    Text1 = Picture2->addBox(m_chain, QStringLiteral("Text1"), tr("top number"), Cancelling::kAnswerDigits);
+    Text2 = Picture2->addBox(m_chain, QStringLiteral("Text2"), tr("bottom number"), Cancelling::kAnswerDigits);
     connect(m_chain, &AnswerChain::complete, this, &KitBoard::answered);
     connect(m_chain, &AnswerChain::refused, this,
             [this](QLineEdit*, AnswerChain::Reason) { emit refused(check().statement); });

@@ -2,14 +2,9 @@
 
 #include "fractionline.h"
 #include "kit/parts/answerchain.h"
-#include "runtime/twips.h"
 
 #include <QCoreApplication>
 #include <QLineEdit>
-
-namespace {
-constexpr double kBoxPoints = 24; // until the line sizes the boxes to its numbers
-} // namespace
 
 ChainBoard::ChainBoard(QWidget* parent)
     : KitBoard(parent)
@@ -18,16 +13,12 @@ ChainBoard::ChainBoard(QWidget* parent)
 {
     setObjectName(QStringLiteral("Board"));
     Picture2->setObjectName(QStringLiteral("Picture2"));
-    AnswerBox::Options digits;
-    digits.maxLength = EquivalentChain::kAnswerDigits;
-    const QFont font = Twips::font(QStringLiteral("Times New Roman"), kBoxPoints, true);
-    // A top of 0 is a fraction, only a wrong one; a bottom of 0 the check refuses.
-    const bool zeroAllowed = true;
     // Each question names its boxes by their places in the chain.
     const QString missing = tr("missing number");
-    Text1 = m_chain->addBox(Picture2, QStringLiteral("Text1"), missing, font, digits, zeroAllowed);
-    Text2 = m_chain->addBox(Picture2, QStringLiteral("Text2"), missing, font, digits, zeroAllowed);
-    Text3 = m_chain->addBox(Picture2, QStringLiteral("Text3"), missing, font, digits, zeroAllowed);
+    const int digits = EquivalentChain::kAnswerDigits;
+    Text1 = Picture2->addBox(m_chain, QStringLiteral("Text1"), missing, digits);
+    Text2 = Picture2->addBox(m_chain, QStringLiteral("Text2"), missing, digits);
+    Text3 = Picture2->addBox(m_chain, QStringLiteral("Text3"), missing, digits);
     connect(m_chain, &AnswerChain::complete, this, &KitBoard::answered);
     connect(m_chain, &AnswerChain::refused, this,
             [this](QLineEdit*, AnswerChain::Reason) { emit refused(check().statement); });

@@ -1,5 +1,6 @@
 #include "fractionline.h"
 
+#include "kit/parts/answerchain.h"
 #include "runtime/spoken.h"
 #include "runtime/twips.h"
 #include "shell/module1.h"
@@ -21,6 +22,7 @@ constexpr double kNoteDigits = 0.34;  // a note's height, as a share of the cell
 constexpr double kCorner = 0.15;      // the panel's rounded corners
 constexpr double kBoxEdge = 0.055;    // an answer box's edge
 constexpr double kBoxCorner = 0.1;
+constexpr double kBoxPoints = 24; // until the line sizes the boxes to its numbers
 // A line of two fractions need not fill the board: its cells stay this wide.
 constexpr int kLargestCellTwips = 1080;
 
@@ -42,6 +44,14 @@ FractionLine::FractionLine(QWidget* parent)
     : QWidget(parent)
 {
     Spoken::readAsOne(this);
+}
+
+QLineEdit* FractionLine::addBox(AnswerChain* chain, const QString& name, const QString& accessibleName, int digits)
+{
+    AnswerBox::Options options;
+    options.maxLength = digits;
+    const bool zeroAllowed = true;
+    return chain->addBox(this, name, accessibleName, Twips::font(kSerif, kBoxPoints, true), options, zeroAllowed);
 }
 
 void FractionLine::setFractions(const QVector<Fraction>& fractions)

@@ -11,6 +11,7 @@
 #include <QVector>
 #include <QWidget>
 
+class AnswerChain;
 class QLineEdit;
 
 class FractionLine : public QWidget {
@@ -28,6 +29,11 @@ public:
         Number top;
         Number bottom;
     };
+
+    // Makes the next box of `chain` over this line, in the line's font, for
+    // a number of up to `digits` digits. A 0 is let through: a top of 0 is a
+    // fraction, only a wrong one, and a bottom of 0 the activity's check refuses.
+    QLineEdit* addBox(AnswerChain* chain, const QString& name, const QString& accessibleName, int digits);
 
     // The fractions to show; each box named in them is placed over its number.
     void setFractions(const QVector<Fraction>& fractions);

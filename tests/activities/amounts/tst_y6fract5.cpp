@@ -1,9 +1,8 @@
-// Finding Amounts played with the keyboard alone, from its menu, and its worksheet.
+// Finding Amounts played with the keyboard alone, from its menu.
 #include "activities/amounts/amountsboard.h"
 #include "activities/amounts/y6fract5.h"
 #include "kit/parts/barmodel.h"
-#include "sheetcheck.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -17,34 +16,24 @@ class TestY6fract5 : public QObject {
 private slots:
     void init() { world.fresh(12); }
     void oneQuestionByKeyboard();
-    void worksheet();
 
 private:
-    y6fract5* open()
-    {
-        Forms::show(QStringLiteral("y6Intro"))->findChild<QPushButton*>(QStringLiteral("Command6"))->click();
-        TestSupport::flushUnloads();
-        return Forms::find<y6fract5>();
-    }
     TestSupport::World world;
 };
 
 // Start, a refused 0, the hint's bar, the answer beside its unit.
 void TestY6fract5::oneQuestionByKeyboard()
 {
-    auto* form = open();
-    QVERIFY(form);
-    QApplication::setActiveWindow(form);
-    QTest::keyClick(form->cmdstart, Qt::Key_Space);
-    auto* board = static_cast<AmountsBoard*>(form->board());
+    KitScreen* form = nullptr;
+    auto* board = ActivityTest::start<AmountsBoard>(QStringLiteral("y6fract5"), &form);
+    QVERIFY(board);
     const Amounts::Question q = board->question();
     QCOMPARE(QApplication::focusWidget(), board->Text1);
     QCOMPARE(board->Picture2->amount(), q.amount);
     QCOMPARE(board->Label1->text() + QString::number(q.amount) + board->Label2->text(),
              q.withUnit(q.amount).remove(QLatin1Char(' ')));
 
-    QTest::keyClicks(board->Text1, QStringLiteral("0"));
-    QTest::keyClick(board->Text1, Qt::Key_Return);
+    ActivityTest::enter(QStringLiteral("0"), board->Text1);
     QCOMPARE(form->Label2->text(), QStringLiteral("0 is not the answer: every amount here is more than 0."));
     QVERIFY(board->Text1->text().isEmpty());
 
@@ -53,21 +42,9 @@ void TestY6fract5::oneQuestionByKeyboard()
     QVERIFY(board->Picture2->showsWorking());
     QCOMPARE(board->Picture2->perPart() * board->Picture2->parts(), q.amount);
 
-    QTest::keyClicks(board->Text1, QString::number(q.answer()));
-    QTest::keyClick(board->Text1, Qt::Key_Return);
+    ActivityTest::enter(QString::number(q.answer()), board->Text1);
     QCOMPARE(counter, 1);
     QCOMPARE(form->Label2->text(), praisetext + q.statement());
-}
-
-// Print asks first, then gives 12 fresh questions and their answers.
-void TestY6fract5::worksheet()
-{
-    if (!PdfSupport::missingTool().isEmpty())
-        QSKIP("poppler-utils is not installed");
-    auto* form = open();
-    world.answer = MsgBox::Answer::Yes;
-    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, AmountsBoard::worksheet), QString());
-    QCOMPARE(world.messages.size(), 1);
 }
 
 QTEST_MAIN(TestY6fract5)

@@ -1,13 +1,12 @@
 // More Than, Less Than played with the keyboard alone from its menu, and its
-// printed worksheet.
+// hint.
 #include "activities/comparing/compareboard.h"
 #include "activities/comparing/fractionpair.h"
 #include "activities/comparing/y4fract5.h"
 #include "kit/parts/choicecard.h"
 #include "kit/parts/choicecards.h"
 #include "kit/parts/fractionwall.h"
-#include "sheetcheck.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -21,15 +20,8 @@ class TestY4fract5 : public QObject {
 private slots:
     void init() { world.fresh(31); }
     void oneQuestionByKeyboard();
-    void worksheet();
 
 private:
-    y4fract5* open()
-    {
-        Forms::show(QStringLiteral("y4Intro"))->findChild<QPushButton*>(QStringLiteral("Command6"))->click();
-        TestSupport::flushUnloads();
-        return Forms::find<y4fract5>();
-    }
     TestSupport::World world;
 };
 
@@ -43,11 +35,9 @@ static char signOf(Relation relation)
 // the right sign key answers; then a wrong one, marked on the cards.
 void TestY4fract5::oneQuestionByKeyboard()
 {
-    y4fract5* form = open();
-    QVERIFY(form);
-    QApplication::setActiveWindow(form);
-    QTest::keyClick(form->cmdstart, Qt::Key_Space);
-    auto* board = static_cast<CompareBoard*>(form->board());
+    y4fract5* form = nullptr;
+    auto* board = ActivityTest::start<CompareBoard>(QStringLiteral("y4fract5"), &form);
+    QVERIFY(board);
     QCOMPARE(QApplication::focusWidget(), board->Cards1->card(0));
     const CompareFractions::Question q = board->question();
     QCOMPARE(form->Label1->text(), q.instruction());
@@ -77,17 +67,6 @@ void TestY4fract5::oneQuestionByKeyboard()
     QCOMPARE(form->Label2->text(), QStringLiteral("Not quite. ") + CompareFractions::check(next, int(wrong)).statement);
     QCOMPARE(board->Cards1->card(int(wrong))->mark(), ChoiceCard::Mark::Wrong);
     QCOMPARE(board->Cards1->card(int(next.relation()))->mark(), ChoiceCard::Mark::Right);
-}
-
-// Print asks first, then gives 12 fresh questions and their answers.
-void TestY4fract5::worksheet()
-{
-    if (!PdfSupport::missingTool().isEmpty())
-        QSKIP("poppler-utils is not installed");
-    y4fract5* form = open();
-    world.answer = MsgBox::Answer::Yes;
-    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, CompareBoard::worksheet), QString());
-    QCOMPARE(world.messages.size(), 1);
 }
 
 QTEST_MAIN(TestY4fract5)

@@ -1,12 +1,11 @@
 // Equivalent Fractions and Cancelling played with the keyboard alone, from
-// their menu, and their printed worksheets.
+// their menu.
 #include "activities/equivalent/cancelboard.h"
 #include "activities/equivalent/chainboard.h"
 #include "activities/equivalent/fractionline.h"
 #include "kit/kitscreen.h"
 #include "rewards/reward.h"
-#include "sheetcheck.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -16,29 +15,13 @@
 using namespace Module1;
 
 namespace {
-// The screen behind the Year 5 menu's button.
-KitScreen* open(const QString& button, const char* screen)
+KitScreen* openAndStart(const char* screen, int challengeMode = 0)
 {
-    Forms::show(QStringLiteral("y5Intro"))->findChild<QPushButton*>(button)->click();
-    TestSupport::flushUnloads();
-    return qobject_cast<KitScreen*>(Forms::find(QString::fromLatin1(screen)));
-}
-
-KitScreen* openAndStart(const char* button, const char* screen, int challengeMode = 0)
-{
-    KitScreen* form = open(QString::fromLatin1(button), screen);
+    KitScreen* form = ActivityTest::open(QLatin1String(screen));
     challenge = challengeMode; // the menu opens the practice
-    if (form) {
-        QApplication::setActiveWindow(form);
-        QTest::keyClick(form->cmdstart, Qt::Key_Space);
-    }
+    if (form)
+        ActivityTest::pressStart(form);
     return form;
-}
-
-void type(const QString& text)
-{
-    QTest::keyClicks(QApplication::focusWidget(), text);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
 }
 } // namespace
 
@@ -48,8 +31,6 @@ private slots:
     void init() { world.fresh(5); }
     void chainByKeyboard();
     void cancellingByKeyboardInTheChallenge();
-    void worksheet_data();
-    void worksheet();
 
 private:
     TestSupport::World world;
@@ -59,7 +40,7 @@ private:
 // boxes fill left to right, Enter moving on, and the last Enter checks.
 void TestChainCancel::chainByKeyboard()
 {
-    KitScreen* form = openAndStart("Command3", "y5fract2");
+    KitScreen* form = openAndStart("y5fract2");
     QVERIFY(form);
     auto* board = qobject_cast<ChainBoard*>(form->board());
     QVERIFY(board);
@@ -68,7 +49,7 @@ void TestChainCancel::chainByKeyboard()
     QCOMPARE(board->Picture2->accessibleName(), q.spoken());
     QCOMPARE(QApplication::focusWidget(), board->Text1);
 
-    type(QString());
+    ActivityTest::enter(QString());
     QCOMPARE(form->Label2->text(), QStringLiteral("Fill in every box first!"));
     QCOMPARE(QApplication::focusWidget(), board->Text1);
     form->cmdhint->click();
@@ -83,7 +64,7 @@ void TestChainCancel::chainByKeyboard()
         // Each box stands in its missing number's place, and takes its turn.
         QCOMPARE(boxes[box]->geometry(), board->Picture2->numberPlace(i / 2 + 1, i % 2 == 1));
         QCOMPARE(QApplication::focusWidget(), boxes[box++]);
-        type(QString::number(q.number(i)));
+        ActivityTest::enter(QString::number(q.number(i)));
     }
     QCOMPARE(counter, 1);
     QCOMPARE(form->Label2->text(), praisetext + q.answerText() + QLatin1Char('.'));
@@ -97,7 +78,7 @@ void TestChainCancel::chainByKeyboard()
 // not count as wrong, even in the Challenge; a bottom of 0 is refused.
 void TestChainCancel::cancellingByKeyboardInTheChallenge()
 {
-    KitScreen* form = openAndStart("Command5", "y5fract3", 1);
+    KitScreen* form = openAndStart("y5fract3", 1);
     QVERIFY(form);
     auto* board = qobject_cast<CancelBoard*>(form->board());
     QVERIFY(board && !form->cmdhint->isEnabled());
@@ -106,55 +87,27 @@ void TestChainCancel::cancellingByKeyboardInTheChallenge()
     QCOMPARE(QApplication::focusWidget(), board->Text1);
 
     const int times = q.factor == 2 ? 3 : 2; // equal, and not the fraction shown
-    type(QString::number(q.simplestTop * times));
+    const QString top = QString::number(q.simplestTop * times), bottom = QString::number(q.simplestBottom * times);
+    ActivityTest::enter(top);
     QCOMPARE(QApplication::focusWidget(), board->Text2);
-    type(QString::number(q.simplestBottom * times));
-    QCOMPARE(form->Label2->text(), QStringLiteral("%1 is equal to %2/%3, but it can be cancelled further.")
-                                       .arg(q.text())
-                                       .arg(q.simplestTop * times)
-                                       .arg(q.simplestBottom * times));
+    ActivityTest::enter(bottom);
+    QCOMPARE(form->Label2->text(), Cancelling::check(q, top, bottom).statement);
     QVERIFY(challenge == 1 && counter == 0 && !Forms::isLoaded(QStringLiteral("Reward")));
     QVERIFY(board->question() == q && form->cmdcheck->isEnabled());
 
     board->Text1->setFocus();
     board->Text1->clear();
-    type(QString::number(q.simplestTop));
+    ActivityTest::enter(QString::number(q.simplestTop));
     board->Text2->clear();
-    type(QStringLiteral("0"));
+    ActivityTest::enter(QStringLiteral("0"));
     QCOMPARE(form->Label2->text(), QStringLiteral("A bottom number cannot be 0."));
     QVERIFY(challenge == 1 && counter == 0);
 
     board->Text2->setFocus();
     board->Text2->clear();
-    type(QString::number(q.simplestBottom));
+    ActivityTest::enter(QString::number(q.simplestBottom));
     QCOMPARE(counter, 1);
     QCOMPARE(form->Label2->text(), praisetext + q.statement());
-}
-
-void TestChainCancel::worksheet_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("screen");
-    QTest::addColumn<bool>("chain");
-    QTest::newRow("Equivalent Fractions") << "Command3" << "y5fract2" << true;
-    QTest::newRow("Cancelling") << "Command5" << "y5fract3" << false;
-}
-
-// Print asks first, then gives 12 fresh questions and their answers.
-void TestChainCancel::worksheet()
-{
-    if (!PdfSupport::missingTool().isEmpty())
-        QSKIP("poppler-utils is not installed");
-    QFETCH(QString, button);
-    QFETCH(QString, screen);
-    QFETCH(bool, chain);
-    KitScreen* form = open(button, qPrintable(screen));
-    QVERIFY(form);
-    world.answer = MsgBox::Answer::Yes;
-    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, chain ? ChainBoard::worksheet : CancelBoard::worksheet),
-             QString());
-    QCOMPARE(world.messages.size(), 1);
-    QCOMPARE(world.messages[0].text, QStringLiteral("Do you really want to print?"));
 }
 
 QTEST_MAIN(TestChainCancel)

@@ -1,6 +1,5 @@
 // Equivalent Fractions 1, 2 and 3 played with the keyboard alone, from their
-// menu, and their printed worksheets.
-#include "activities/activitytable.h"
+// menu.
 #include "activities/equivalent/choiceboard.h"
 #include "activities/equivalent/equationpanel.h"
 #include "activities/equivalent/equivalentscreens.h"
@@ -9,8 +8,7 @@
 #include "kit/parts/choicecard.h"
 #include "kit/parts/choicecards.h"
 #include "kit/parts/fractionwall.h"
-#include "sheetcheck.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -20,18 +18,6 @@
 using namespace Module1;
 
 namespace {
-KitScreen* openAndStart(const char* button, const char* screen)
-{
-    Forms::show(QStringLiteral("y4Intro"))->findChild<QPushButton*>(QLatin1String(button))->click();
-    TestSupport::flushUnloads();
-    auto* form = qobject_cast<KitScreen*>(Forms::find(QLatin1String(screen)));
-    if (!form)
-        return nullptr;
-    QApplication::setActiveWindow(form);
-    QTest::keyClick(form->cmdstart, Qt::Key_Space);
-    return form;
-}
-
 int secondRowShaded(const PairBoard* board)
 {
     return board->Picture3->rows().value(1).shaded;
@@ -45,8 +31,6 @@ private slots:
     void missingNumberByKeyboard_data();
     void missingNumberByKeyboard();
     void cardByKeyboard();
-    void worksheet_data();
-    void worksheet();
 
 private:
     TestSupport::World world;
@@ -54,10 +38,9 @@ private:
 
 void TestEquivalent::missingNumberByKeyboard_data()
 {
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<QByteArray>("screen");
-    QTest::newRow("on the wall") << QByteArray("Command5") << QByteArray("y4fract1");
-    QTest::newRow("anywhere") << QByteArray("Command2") << QByteArray("y4fract2");
+    QTest::addColumn<QString>("screen");
+    QTest::newRow("on the wall") << "y4fract1";
+    QTest::newRow("anywhere") << "y4fract2";
 }
 
 // Enter in the empty box keeps the question; a wrong number is told, and on
@@ -65,11 +48,10 @@ void TestEquivalent::missingNumberByKeyboard_data()
 // next question is answered right.
 void TestEquivalent::missingNumberByKeyboard()
 {
-    QFETCH(QByteArray, button);
-    QFETCH(QByteArray, screen);
-    KitScreen* form = openAndStart(button, screen);
-    QVERIFY(form);
-    auto* board = static_cast<PairBoard*>(form->board());
+    QFETCH(QString, screen);
+    KitScreen* form = nullptr;
+    auto* board = ActivityTest::start<PairBoard>(screen, &form);
+    QVERIFY(board);
     const bool onWall = board->Picture3 != nullptr;
     QCOMPARE(QApplication::focusWidget(), board->Text1);
     QCOMPARE(form->Label1->text(), Fractions::capitalised(board->question().spoken()));
@@ -79,8 +61,7 @@ void TestEquivalent::missingNumberByKeyboard()
     QTest::keyClick(board->Text1, Qt::Key_Return);
     QCOMPARE(form->Label2->text(), QStringLiteral("Type the missing number in the box first!"));
     const int wrong = board->question().answer() + 1;
-    QTest::keyClicks(board->Text1, QString::number(wrong));
-    QTest::keyClick(board->Text1, Qt::Key_Return);
+    ActivityTest::enter(QString::number(wrong), board->Text1);
     QCOMPARE(form->Label2->text(), QStringLiteral("Not quite. ") + board->question().statement());
     if (onWall)
         QCOMPARE(secondRowShaded(board), std::min(wrong, board->question().bottom * board->question().factor));
@@ -94,8 +75,7 @@ void TestEquivalent::missingNumberByKeyboard()
     if (onWall)
         QCOMPARE(secondRowShaded(board), board->question().answer());
     QCOMPARE(QApplication::focusWidget(), board->Text1);
-    QTest::keyClicks(board->Text1, QString::number(board->question().answer()));
-    QTest::keyClick(board->Text1, Qt::Key_Return);
+    ActivityTest::enter(QString::number(board->question().answer()), board->Text1);
     QCOMPARE(counter, 1);
     QCOMPARE(form->Label2->text(), praisetext + board->question().statement());
 }
@@ -104,9 +84,9 @@ void TestEquivalent::missingNumberByKeyboard()
 // and the right one and draws the two as bars; the right card's key counts.
 void TestEquivalent::cardByKeyboard()
 {
-    KitScreen* form = openAndStart("Command1", "y4fract3");
-    QVERIFY(form);
-    auto* board = static_cast<ChoiceBoard*>(form->board());
+    KitScreen* form = nullptr;
+    auto* board = ActivityTest::start<ChoiceBoard>(QStringLiteral("y4fract3"), &form);
+    QVERIFY(board);
     const Equivalent::Choice asked = board->question();
     QCOMPARE(form->Label1->text(), asked.instruction());
     QVERIFY(!board->Picture3->isVisible());
@@ -129,33 +109,6 @@ void TestEquivalent::cardByKeyboard()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key(Qt::Key_1 + next.right));
     QCOMPARE(counter, 1);
     QCOMPARE(form->Label2->text(), praisetext + Equivalent::checkChoice(next, next.right).statement);
-}
-
-void TestEquivalent::worksheet_data()
-{
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<QByteArray>("screen");
-    QTest::newRow("y4fract1") << QByteArray("Command5") << QByteArray("y4fract1");
-    QTest::newRow("y4fract2") << QByteArray("Command2") << QByteArray("y4fract2");
-    QTest::newRow("y4fract3") << QByteArray("Command1") << QByteArray("y4fract3");
-}
-
-// Print asks first, then gives 12 fresh questions and their answers.
-void TestEquivalent::worksheet()
-{
-    if (!PdfSupport::missingTool().isEmpty())
-        QSKIP("poppler-utils is not installed");
-    QFETCH(QByteArray, button);
-    QFETCH(QByteArray, screen);
-    Forms::show(QStringLiteral("y4Intro"))->findChild<QPushButton*>(QLatin1String(button))->click();
-    TestSupport::flushUnloads();
-    auto* form = qobject_cast<ActivityForm*>(Forms::find(QLatin1String(screen)));
-    QVERIFY(form);
-    world.answer = MsgBox::Answer::Yes;
-    const Activities::Row* row = Activities::forScreen(QLatin1String(screen));
-    QVERIFY(row && row->sheet);
-    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, row->sheet), QString());
-    QCOMPARE(world.messages.size(), 1);
 }
 
 QTEST_MAIN(TestEquivalent)

@@ -1,10 +1,9 @@
 // Halves, Quarters, Thirds and Tenths 3 and Fractions of Numbers played with
-// the keyboard alone, from their menus, and their worksheets.
+// the keyboard alone, from their menus.
 #include "activities/fractionof/fractionofboard.h"
 #include "kit/kitscreen.h"
 #include "kit/parts/barmodel.h"
-#include "sheetcheck.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -14,16 +13,13 @@
 using namespace Module1;
 
 namespace {
-// Each screen from its menu, its largest multiple of the bottom and its year.
+// Each screen and its largest multiple of the bottom.
 void addScreens()
 {
-    QTest::addColumn<QString>("menu");
-    QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("screen");
     QTest::addColumn<int>("most");
-    QTest::addColumn<int>("year");
-    QTest::newRow("Year 3") << "y3Intro" << "Command5" << "y3fract3" << 10 << 3;
-    QTest::newRow("Year 5") << "y5Intro" << "Command1" << "y5fract1" << 12 << 5;
+    QTest::newRow("Year 3") << "y3fract3" << 10;
+    QTest::newRow("Year 5") << "y5fract1" << 12;
 }
 } // namespace
 
@@ -33,17 +29,9 @@ private slots:
     void init() { world.fresh(5); }
     void oneQuestionByKeyboard_data() { addScreens(); }
     void oneQuestionByKeyboard();
-    void worksheet_data() { addScreens(); }
-    void worksheet();
     void yearThreeRewardsNeverSphere();
 
 private:
-    KitScreen* open(const QString& menu, const QString& button, const QString& screen)
-    {
-        Forms::show(menu)->findChild<QPushButton*>(button)->click();
-        TestSupport::flushUnloads();
-        return qobject_cast<KitScreen*>(Forms::find(screen));
-    }
     TestSupport::World world;
 };
 
@@ -51,15 +39,10 @@ private:
 // typed and Enter.
 void TestFractionOf::oneQuestionByKeyboard()
 {
-    QFETCH(QString, menu);
-    QFETCH(QString, button);
     QFETCH(QString, screen);
     QFETCH(int, most);
-    KitScreen* form = open(menu, button, screen);
-    QVERIFY(form && form->isVisible());
-    QApplication::setActiveWindow(form);
-    QTest::keyClick(form->cmdstart, Qt::Key_Space);
-    auto* board = qobject_cast<FractionOfBoard*>(form->board());
+    KitScreen* form = nullptr;
+    auto* board = ActivityTest::start<FractionOfBoard>(screen, &form);
     QVERIFY(board);
     const FractionOf::Question q = board->question();
     QVERIFY(q.amount <= q.bottom * most);
@@ -87,26 +70,11 @@ void TestFractionOf::oneQuestionByKeyboard()
     QVERIFY(board->Text1->text().isEmpty() && !board->Bar1->showsWorking() && !(board->question() == q));
 }
 
-// Print asks first, then gives 12 fresh questions and their answers.
-void TestFractionOf::worksheet()
-{
-    QFETCH(QString, menu);
-    QFETCH(QString, button);
-    QFETCH(QString, screen);
-    QFETCH(int, year);
-    if (!PdfSupport::missingTool().isEmpty())
-        QSKIP("poppler-utils is not installed");
-    KitScreen* form = open(menu, button, screen);
-    world.answer = MsgBox::Answer::Yes;
-    const auto sheet = year == 3 ? FractionOfBoard::year3Sheet : FractionOfBoard::year5Sheet;
-    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, sheet), QString());
-    QCOMPARE(world.messages.size(), 1);
-}
-
 // Year 3's fractions of a number never draw the sphere's reward pictures.
 void TestFractionOf::yearThreeRewardsNeverSphere()
 {
-    KitScreen* form = open(QStringLiteral("y3Intro"), QStringLiteral("Command5"), QStringLiteral("y3fract3"));
+    KitScreen* form = ActivityTest::open(QStringLiteral("y3fract3"));
+    QVERIFY(form);
     QSet<QString> sets;
     for (int i = 0; i < 200; ++i) {
         form->cmdstart->click();

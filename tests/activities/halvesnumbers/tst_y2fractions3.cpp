@@ -2,7 +2,6 @@
 #include "activities/halvesnumbers/picturesboard.h"
 #include "activities/halvesnumbers/y2fractions3.h"
 #include "kit/parts/picturerows.h"
-#include "sheetcheck.h"
 #include "testsupport.h"
 
 #include <QLabel>
@@ -17,7 +16,6 @@ class TestY2fractions3 : public QObject {
 private slots:
     void init() { world.fresh(12); }
     void oneQuestionByKeyboard();
-    void worksheet();
 
 private:
     TestSupport::World world;
@@ -50,20 +48,6 @@ void TestY2fractions3::oneQuestionByKeyboard()
     form->setEnabled(true);
     QTest::keyClick(board->Text1, Qt::Key_Return); // moves on at once
     QVERIFY(board->Text1->text().isEmpty() && board->Picture2->groups() == 0 && form->Label1->isVisible());
-}
-
-// Print asks first, then gives 12 fresh questions and their answers.
-void TestY2fractions3::worksheet()
-{
-    if (!PdfSupport::missingTool().isEmpty())
-        QSKIP("poppler-utils is not installed");
-    Forms::show(QStringLiteral("y2Intro"))->findChild<QPushButton*>(QStringLiteral("Command3"))->click();
-    TestSupport::flushUnloads();
-    auto* form = qobject_cast<ActivityForm*>(Forms::find(QStringLiteral("Y2fractions3")));
-    world.answer = MsgBox::Answer::Yes;
-    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, PicturesBoard::worksheet), QString());
-    QCOMPARE(world.messages.size(), 1);
-    QCOMPARE(world.messages[0].text, QStringLiteral("Do you really want to print?"));
 }
 
 QTEST_MAIN(TestY2fractions3)

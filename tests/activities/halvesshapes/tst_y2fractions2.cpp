@@ -2,7 +2,6 @@
 #include "activities/halvesshapes/shapesboard.h"
 #include "activities/halvesshapes/y2fractions2.h"
 #include "kit/parts/shapeboard.h"
-#include "sheetcheck.h"
 #include "testsupport.h"
 
 #include <QLabel>
@@ -16,7 +15,6 @@ class TestY2fractions2 : public QObject {
 private slots:
     void init() { world.fresh(11); }
     void oneQuestionByKeyboard();
-    void worksheet();
 
 private:
     TestSupport::World world;
@@ -63,20 +61,6 @@ void TestY2fractions2::oneQuestionByKeyboard()
     press(Qt::Key_Return);
     QCOMPARE(counter, 1);
     QVERIFY(form->Label2->text().startsWith(QStringLiteral("Not quite. You coloured ")));
-}
-
-// Print asks first, then gives 12 fresh questions and their answers.
-void TestY2fractions2::worksheet()
-{
-    if (!PdfSupport::missingTool().isEmpty())
-        QSKIP("poppler-utils is not installed");
-    Forms::show(QStringLiteral("y2Intro"))->findChild<QPushButton*>(QStringLiteral("Command2"))->click();
-    TestSupport::flushUnloads();
-    auto* form = qobject_cast<ActivityForm*>(Forms::find(QStringLiteral("Y2fractions2")));
-    world.answer = MsgBox::Answer::Yes;
-    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, ShapesBoard::worksheet), QString());
-    QCOMPARE(world.messages.size(), 1);
-    QCOMPARE(world.messages[0].text, QStringLiteral("Do you really want to print?"));
 }
 
 QTEST_MAIN(TestY2fractions2)

@@ -1,9 +1,8 @@
-// How Many? played with the keyboard alone, from its menu, and its worksheet.
+// How Many? played with the keyboard alone, from its menu.
 #include "activities/howmany/howmanyboard.h"
 #include "activities/howmany/y6fract4.h"
 #include "kit/parts/placevaluetable.h"
-#include "sheetcheck.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -17,26 +16,17 @@ class TestY6fract4 : public QObject {
 private slots:
     void init() { world.fresh(12); }
     void oneQuestionByKeyboard();
-    void worksheet();
 
 private:
-    y6fract4* open()
-    {
-        Forms::show(QStringLiteral("y6Intro"))->findChild<QPushButton*>(QStringLiteral("Command5"))->click();
-        TestSupport::flushUnloads();
-        return Forms::find<y6fract4>();
-    }
     TestSupport::World world;
 };
 
 // Start, Enter on an empty box, a 0 in front, the hint's columns, the answer.
 void TestY6fract4::oneQuestionByKeyboard()
 {
-    auto* form = open();
-    QVERIFY(form);
-    QApplication::setActiveWindow(form);
-    QTest::keyClick(form->cmdstart, Qt::Key_Space);
-    auto* board = static_cast<HowManyBoard*>(form->board());
+    KitScreen* form = nullptr;
+    auto* board = ActivityTest::start<HowManyBoard>(QStringLiteral("y6fract4"), &form);
+    QVERIFY(board);
     const HowMany::Question q = board->question();
     QCOMPARE(QApplication::focusWidget(), board->Text1);
     QCOMPARE(board->Picture2->number(), q.number());
@@ -44,8 +34,7 @@ void TestY6fract4::oneQuestionByKeyboard()
 
     QTest::keyClick(board->Text1, Qt::Key_Return);
     QCOMPARE(form->Label2->text(), QStringLiteral("Type your answer in the box first!"));
-    QTest::keyClicks(board->Text1, QStringLiteral("01"));
-    QTest::keyClick(board->Text1, Qt::Key_Return);
+    ActivityTest::enter(QStringLiteral("01"), board->Text1);
     QCOMPARE(form->Label2->text(), QStringLiteral("Write your number without a 0 in front."));
     QCOMPARE(counter, 0);
 
@@ -62,17 +51,6 @@ void TestY6fract4::oneQuestionByKeyboard()
     QTest::keyClick(board->Text1, Qt::Key_Return);
     QCOMPARE(counter, 1);
     QCOMPARE(form->Label2->text(), praisetext + q.statement());
-}
-
-// Print asks first, then gives 12 fresh questions and their answers.
-void TestY6fract4::worksheet()
-{
-    if (!PdfSupport::missingTool().isEmpty())
-        QSKIP("poppler-utils is not installed");
-    auto* form = open();
-    world.answer = MsgBox::Answer::Yes;
-    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, HowManyBoard::worksheet), QString());
-    QCOMPARE(world.messages.size(), 1);
 }
 
 QTEST_MAIN(TestY6fract4)

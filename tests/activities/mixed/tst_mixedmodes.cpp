@@ -1,11 +1,10 @@
 // The mixed-numbers screen's other modes: one way only (Year 5) and Year 6's
-// larger numbers. Their questions, one played by the keyboard alone from
-// the menu, and their worksheets.
+// larger numbers. Their questions, and one played by the keyboard alone from
+// the menu.
 #include "activities/activitytable.h"
 #include "activities/mixed/y5fract4.h"
 #include "fractions/fraction.h"
-#include "sheetcheck.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QFrame>
 #include <QLabel>
@@ -21,13 +20,12 @@ constexpr int kToMixed = MixedQuestion::kToMixed;
 constexpr int kToImproper = MixedQuestion::kToImproper;
 constexpr int kDraws = 4000;
 
-// Each mode: its screen, menu and button, the direction, the largest whole
+// Each mode: its screen and menu, the direction, the largest whole
 // number and denominator, the largest improper numerator, the year.
 void addModeColumns()
 {
     QTest::addColumn<int>("mode");
     QTest::addColumn<QString>("menu");
-    QTest::addColumn<QString>("button");
     QTest::addColumn<int>("direction");
     QTest::addColumn<int>("largestWhole");
     QTest::addColumn<int>("largestDenom");
@@ -37,11 +35,10 @@ void addModeColumns()
 
 void addModeRows()
 {
-    QTest::newRow("y5fract6, to improper fractions") << int(MixedModes::kToImproper) << "y5Intro2" << "Command2"
-                                                     << kToImproper << 9 << 10 << 99 << "Year 5";
-    QTest::newRow("y5fract7, to mixed numbers") << int(MixedModes::kToMixed) << "y5Intro2" << "Command5" << kToMixed
+    QTest::newRow("y5fract6, to improper fractions") << int(MixedModes::kToImproper) << "y5Intro2" << kToImproper << 9 << 10 << 99 << "Year 5";
+    QTest::newRow("y5fract7, to mixed numbers") << int(MixedModes::kToMixed) << "y5Intro2" << kToMixed
                                                 << 5 << 10 << 59 << "Year 5";
-    QTest::newRow("y6fract1, Year 6") << int(MixedModes::kYearSix) << "y6Intro" << "Command2" << kEither << 12 << 12
+    QTest::newRow("y6fract1, Year 6") << int(MixedModes::kYearSix) << "y6Intro" << kEither << 12 << 12
                                       << 155 << "Year 6";
 }
 
@@ -59,7 +56,6 @@ private slots:
 
     void drawsOverManySeeds_data() { addModeColumns(); addModeRows(); }
     void oneQuestionByKeyboard_data() { addModeColumns(); addModeRows(); }
-    void worksheet_data() { addModeColumns(); addModeRows(); }
 
     // Every draw keeps to the mode's direction and ranges, a proper fraction
     // in lowest terms beside its whole number, and never comes twice in a
@@ -101,14 +97,11 @@ private slots:
     {
         QFETCH(int, mode);
         QFETCH(QString, menu);
-        QFETCH(QString, button);
         QFETCH(int, direction);
         QFETCH(int, largestImproper);
         QFETCH(QString, year);
-        Forms::show(menu)->findChild<QPushButton*>(button)->click();
-        TestSupport::flushUnloads();
-        auto* form = qobject_cast<y5fract4*>(Forms::find(QString::fromLatin1(modeOf(mode).screen)));
-        QVERIFY(form && form->isVisible());
+        auto* form = ActivityTest::open<y5fract4>(QString::fromLatin1(modeOf(mode).screen));
+        QVERIFY(form);
         QCOMPARE(form->windowTitle(), year);
         QCOMPARE(form->Label4->text(), activitytitle);
         QCOMPARE(activitytitle, Activities::titleText(*Activities::forScreen(form->objectName())));
@@ -120,8 +113,7 @@ private slots:
         QVERIFY(direction == kEither || q.direction == direction);
         for (int n : q.answerNumbers()) {
             QVERIFY(qobject_cast<QLineEdit*>(QApplication::focusWidget()));
-            QTest::keyClicks(QApplication::focusWidget(), QString::number(n));
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            ActivityTest::enter(QString::number(n));
         }
         QCOMPARE(counter, 1);
         QCOMPARE(form->Label2->text(), praisetext + QStringLiteral(" ") + q.answerText());
@@ -130,19 +122,6 @@ private slots:
         QTest::keyClick(form, Qt::Key_Escape);
         TestSupport::flushUnloads();
         QCOMPARE(TestSupport::visibleForms(), QStringList{menu});
-    }
-
-    // Print asks first, then prints 12 of the mode's questions and their answers.
-    void worksheet()
-    {
-        if (!PdfSupport::missingTool().isEmpty())
-            QSKIP("poppler-utils is not installed");
-        QFETCH(int, mode);
-        auto* form = qobject_cast<ActivityForm*>(Forms::show(QString::fromLatin1(modeOf(mode).screen)));
-        world.answer = MsgBox::Answer::Yes;
-        const auto sheet = [mode](Random::Source& rnd) { return MixedModes::worksheet(modeOf(mode), rnd); };
-        QCOMPARE(SheetCheck::printAndRead(form->cmdprint, sheet), QString());
-        QCOMPARE(world.messages.size(), 1);
     }
 };
 

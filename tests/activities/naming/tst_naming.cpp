@@ -1,14 +1,13 @@
 // The two screens that name the fraction shown, Halves, Quarters, Thirds
 // and Tenths 2 and Write A Fraction, played with the keyboard alone from
-// their menus, and their printed worksheets.
+// their menus.
 #include "activities/naming/namingboard.h"
 #include "fractions/halvesquestion.h"
 #include "kit/kitscreen.h"
 #include "kit/parts/hundredsquare.h"
 #include "kit/parts/picturerows.h"
 #include "kit/parts/shapeboard.h"
-#include "sheetcheck.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -23,32 +22,16 @@ private slots:
     void init() { world.fresh(23); }
     void oneQuestionByKeyboard_data() { screens(); }
     void oneQuestionByKeyboard();
-    void worksheet_data() { screens(); }
-    void worksheet();
 
 private:
     static void screens()
     {
-        QTest::addColumn<QString>("menu");
         QTest::addColumn<QString>("screen");
-        QTest::newRow("Year 3") << "y3Intro" << "y3fract2";
-        QTest::newRow("Write A Fraction") << "y4Intro" << "y4fract4";
+        QTest::newRow("Year 3") << "y3fract2";
+        QTest::newRow("Write A Fraction") << "y4fract4";
     }
-    KitScreen* open(const QString& menu, const QString& screen)
-    {
-        Forms::show(menu)->findChild<QPushButton*>(QStringLiteral("Command3"))->click();
-        TestSupport::flushUnloads();
-        return qobject_cast<KitScreen*>(Forms::find(screen));
-    }
-
     TestSupport::World world;
 };
-
-static void type(const QString& keys)
-{
-    QTest::keyClicks(QApplication::focusWidget(), keys);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-}
 
 // The picture on show, and what a screen reader should hear of it.
 static QWidget* shownPicture(NamingBoard* board, QString* spoken)
@@ -72,13 +55,10 @@ static QWidget* shownPicture(NamingBoard* board, QString* spoken)
 // top number, Enter, bottom number, Enter checks; then a wrong answer.
 void TestNaming::oneQuestionByKeyboard()
 {
-    QFETCH(QString, menu);
     QFETCH(QString, screen);
-    KitScreen* form = open(menu, screen);
-    QVERIFY(form);
-    QApplication::setActiveWindow(form);
-    QTest::keyClick(form->cmdstart, Qt::Key_Space);
-    auto* board = static_cast<NamingBoard*>(form->board());
+    KitScreen* form = nullptr;
+    auto* board = ActivityTest::start<NamingBoard>(screen, &form);
+    QVERIFY(board);
     QCOMPARE(QApplication::focusWidget(), board->Text1);
     const NameFraction::Question q = board->question();
     QCOMPARE(form->Label1->text(), q.instruction());
@@ -87,17 +67,17 @@ void TestNaming::oneQuestionByKeyboard()
     QVERIFY(picture->isVisible());
     QCOMPARE(picture->accessibleName(), spoken);
 
-    type(QString());
+    ActivityTest::enter(QString());
     QCOMPARE(form->Label2->text(), QStringLiteral("Type the top number and the bottom number first!"));
-    type(QStringLiteral("0"));
+    ActivityTest::enter(QStringLiteral("0"));
     QVERIFY(form->Label2->text().startsWith(QStringLiteral("The top number cannot be 0")));
     form->cmdhint->click();
     QCOMPARE(form->Label2->text(), NameFraction::hint(q));
     QCOMPARE(board->Shape1->isNumbered() || board->Picture2->isNumbered() || board->Square1->isVisible(), true);
 
-    type(QString::number(q.shaded));
+    ActivityTest::enter(QString::number(q.shaded));
     QCOMPARE(QApplication::focusWidget(), board->Text2);
-    type(QString::number(q.parts));
+    ActivityTest::enter(QString::number(q.parts));
     QCOMPARE(counter, 1);
     QCOMPARE(form->Label2->text(), praisetext + NameFraction::check(q, QString::number(q.shaded), QString::number(q.parts)).statement);
 
@@ -106,24 +86,10 @@ void TestNaming::oneQuestionByKeyboard()
     QVERIFY(board->Text1->text().isEmpty() && !board->Shape1->isNumbered());
     QCOMPARE(QApplication::focusWidget(), board->Text1);
     const NameFraction::Question next = board->question();
-    type(QString::number(next.parts));
-    type(QString::number(next.shaded)); // upside down
+    ActivityTest::enter(QString::number(next.parts));
+    ActivityTest::enter(QString::number(next.shaded)); // upside down
     QCOMPARE(counter, 1);
     QVERIFY(form->Label2->text().startsWith(QStringLiteral("Not quite. %1 of ").arg(NameFraction::counted(next))));
-}
-
-// Print asks first, then gives 12 fresh questions and their answers.
-void TestNaming::worksheet()
-{
-    QFETCH(QString, menu);
-    QFETCH(QString, screen);
-    if (!PdfSupport::missingTool().isEmpty())
-        QSKIP("poppler-utils is not installed");
-    KitScreen* form = open(menu, screen);
-    world.answer = MsgBox::Answer::Yes;
-    const auto sheet = screen == QLatin1String("y3fract2") ? NamingBoard::year3Worksheet : NamingBoard::year4Worksheet;
-    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, sheet), QString());
-    QCOMPARE(world.messages.size(), 1);
 }
 
 QTEST_MAIN(TestNaming)

@@ -1,11 +1,10 @@
 // Halves, Quarters, Thirds and Tenths 1 played with the keyboard alone, from
-// its menu, and its worksheet.
+// its menu.
 #include "activities/halves/picturecell.h"
 #include "activities/partsofset/partsofsetboard.h"
 #include "activities/partsofset/y3fract1.h"
 #include "runtime/keyboard.h"
-#include "sheetcheck.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -18,15 +17,8 @@ class TestY3fract1 : public QObject {
 private slots:
     void init() { world.fresh(7); }
     void oneQuestionByKeyboard();
-    void worksheet();
 
 private:
-    y3fract1* open()
-    {
-        Forms::show(QStringLiteral("y3Intro"))->findChild<QPushButton*>(QStringLiteral("Command2"))->click();
-        TestSupport::flushUnloads();
-        return Forms::find<y3fract1>();
-    }
     TestSupport::World world;
 };
 
@@ -34,11 +26,9 @@ private:
 // groups and counts the choice; arrows and Space choose the answer; Enter checks.
 void TestY3fract1::oneQuestionByKeyboard()
 {
-    auto* form = open();
-    QVERIFY(form);
-    QApplication::setActiveWindow(form);
-    QTest::keyClick(form->cmdstart, Qt::Key_Space);
-    auto* board = static_cast<PartsOfSetBoard*>(form->board());
+    y3fract1* form = nullptr;
+    auto* board = ActivityTest::start<PartsOfSetBoard>(QStringLiteral("y3fract1"), &form);
+    QVERIFY(board);
     const PartsOfSet::Question q = board->question();
     QCOMPARE(QApplication::focusWidget(), board->Image1[0]);
     // The board is one Tab stop, held by the cursor's picture.
@@ -90,17 +80,6 @@ void TestY3fract1::oneQuestionByKeyboard()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // moves on at once
     QVERIFY(!(board->question() == q) && board->chosenCount() == 0 && form->Label1->isVisible());
     QVERIFY(!board->Image1[0]->groupColour().isValid());
-}
-
-// Print asks first, then gives 12 fresh questions and their answers.
-void TestY3fract1::worksheet()
-{
-    if (!PdfSupport::missingTool().isEmpty())
-        QSKIP("poppler-utils is not installed");
-    auto* form = open();
-    world.answer = MsgBox::Answer::Yes;
-    QCOMPARE(SheetCheck::printAndRead(form->cmdprint, PartsOfSetBoard::worksheet), QString());
-    QCOMPARE(world.messages.size(), 1);
 }
 
 QTEST_MAIN(TestY3fract1)

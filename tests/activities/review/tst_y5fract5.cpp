@@ -1,10 +1,8 @@
 // The Year 5 review: which board poses each question, what goes to the board
-// on show and what comes back from it, one question by the keyboard alone,
-// and the worksheet.
+// on show and what comes back from it, and one question by the keyboard alone.
 #include "activities/mixed/mixedboard.h"
 #include "activities/review/y5fract5.h"
-#include "sheetcheck.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -43,23 +41,11 @@ const QVector<ReviewBoard::Member> kProbes{
     {"Second", ReviewBoard::make<Probe>, nullptr},
 };
 
-// Each number into the box with the keyboard, then ENTER.
+// Each number into the box holding the keyboard, then ENTER.
 void typeInTurn(const QList<int>& numbers)
 {
-    for (int n : numbers) {
-        QTest::keyClicks(QApplication::focusWidget(), QString::number(n));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    }
-}
-
-y5fract5* startedFromMenu()
-{
-    Forms::show(QStringLiteral("y5Intro"))->findChild<QPushButton*>(QStringLiteral("Command6"))->click();
-    TestSupport::flushUnloads();
-    auto* form = Forms::find<y5fract5>();
-    QApplication::setActiveWindow(form);
-    QTest::keyClick(form->cmdstart, Qt::Key_Space);
-    return form;
+    for (int n : numbers)
+        ActivityTest::enter(QString::number(n));
 }
 } // namespace
 
@@ -140,7 +126,8 @@ private slots:
     // all by keys on the board on show, with its own check and hint.
     void oneQuestionByKeyboard()
     {
-        y5fract5* form = startedFromMenu();
+        y5fract5* form = nullptr;
+        QVERIFY(ActivityTest::start<ReviewBoard>(QStringLiteral("y5fract5"), &form));
         auto* board = qobject_cast<MixedBoard*>(form->review()->shown());
         QVERIFY(board);
         const MixedQuestion q = board->question();
@@ -164,17 +151,6 @@ private slots:
         typeInTurn(next.answerNumbers());
         QCOMPARE(counter, 1);
         QCOMPARE(form->Label2->text(), praisetext + next.answerText() + QLatin1Char('.'));
-    }
-
-    // Print asks first, then prints 12 questions drawn across the boards.
-    void worksheet()
-    {
-        if (!PdfSupport::missingTool().isEmpty())
-            QSKIP("poppler-utils is not installed");
-        auto* form = qobject_cast<ActivityForm*>(Forms::show(QStringLiteral("y5fract5")));
-        world.answer = MsgBox::Answer::Yes;
-        QCOMPARE(SheetCheck::printAndRead(form->cmdprint, y5fract5::worksheet), QString());
-        QCOMPARE(world.messages.size(), 1);
     }
 };
 
