@@ -49,8 +49,18 @@ QPixmap decode(const QString& assetPath)
     QImage image = reader.read();
     if (image.isNull())
         MsgBox::fatal(missingMessage(assetPath));
-    if (large)
-        image.setDevicePixelRatio(kLargeTwinFactor);
+    if (large) {
+        // Kept at the pixels it is drawn in, not the twin's: smaller in
+        // memory below twice the size, and painted without resampling.
+        const qreal factor = Twips::scale() * deviceRatio();
+        if (factor < kLargeTwinFactor) {
+            const QSize drawn = (QSizeF(image.size()) * (factor / kLargeTwinFactor)).toSize();
+            image = image.scaled(drawn, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            image.setDevicePixelRatio(factor);
+        } else {
+            image.setDevicePixelRatio(kLargeTwinFactor);
+        }
+    }
     ++g_decodes;
     return QPixmap::fromImage(image);
 }
