@@ -193,20 +193,8 @@
         <translation>%1 of %2 is %3.</translation>
     </message>
     <message>
-        <source>Type your answer in the box first!</source>
-        <translation>Type your answer in the box first!</translation>
-    </message>
-    <message>
         <source>0 is not the answer: every amount here is more than 0.</source>
         <translation>0 is not the answer: every amount here is more than 0.</translation>
-    </message>
-    <message>
-        <source>Write your number without a 0 in front.</source>
-        <translation>Write your number without a 0 in front.</translation>
-    </message>
-    <message>
-        <source>That number is too long.</source>
-        <translation>That number is too long.</translation>
     </message>
     <message>
         <source>To find %1 of %2, divide by %3: %2 ÷ %3 = %4.</source>
@@ -1397,20 +1385,8 @@ They will hold until Partitude is closed. To keep them, start Partitude with --s
         <translation>%1 is %2.</translation>
     </message>
     <message>
-        <source>Type your answer in the box first!</source>
-        <translation>Type your answer in the box first!</translation>
-    </message>
-    <message>
         <source>0 is not the answer: look at the number again.</source>
         <translation>0 is not the answer: look at the number again.</translation>
-    </message>
-    <message>
-        <source>Write your number without a 0 in front.</source>
-        <translation>Write your number without a 0 in front.</translation>
-    </message>
-    <message>
-        <source>That number is too long.</source>
-        <translation>That number is too long.</translation>
     </message>
     <message>
         <source>%1 is %2, not %3: %3 is only the digit in the %4 column.</source>
@@ -2096,6 +2072,18 @@ To use pictures in another folder, start Partitude with %4 and that folder.</tra
     <message>
         <source>%1 point %2</source>
         <translation>%1 point %2</translation>
+    </message>
+    <message>
+        <source>Type your answer in the box first!</source>
+        <translation>Type your answer in the box first!</translation>
+    </message>
+    <message>
+        <source>Write your number without a 0 in front.</source>
+        <translation>Write your number without a 0 in front.</translation>
+    </message>
+    <message>
+        <source>That number is too long.</source>
+        <translation>That number is too long.</translation>
     </message>
 </context>
 <context>

@@ -193,20 +193,8 @@
         <translation>%1 de %2, c&apos;est %3.</translation>
     </message>
     <message>
-        <source>Type your answer in the box first!</source>
-        <translation>Tape d&apos;abord ta réponse dans la case&#xa0;!</translation>
-    </message>
-    <message>
         <source>0 is not the answer: every amount here is more than 0.</source>
         <translation>0 n&apos;est pas la réponse&#xa0;: ici, chaque quantité est plus grande que 0.</translation>
-    </message>
-    <message>
-        <source>Write your number without a 0 in front.</source>
-        <translation>Écris ton nombre sans 0 devant.</translation>
-    </message>
-    <message>
-        <source>That number is too long.</source>
-        <translation>Ce nombre est trop long.</translation>
     </message>
     <message>
         <source>To find %1 of %2, divide by %3: %2 ÷ %3 = %4.</source>
@@ -1397,20 +1385,8 @@ Ils valent jusqu&apos;à la fermeture de Partitude. Pour les garder, lance Parti
         <translation>%1, c&apos;est %2.</translation>
     </message>
     <message>
-        <source>Type your answer in the box first!</source>
-        <translation>Tape d&apos;abord ta réponse dans la case&#xa0;!</translation>
-    </message>
-    <message>
         <source>0 is not the answer: look at the number again.</source>
         <translation>0 n&apos;est pas la réponse&#xa0;: regarde encore le nombre.</translation>
-    </message>
-    <message>
-        <source>Write your number without a 0 in front.</source>
-        <translation>Écris ton nombre sans 0 devant.</translation>
-    </message>
-    <message>
-        <source>That number is too long.</source>
-        <translation>Ce nombre est trop long.</translation>
     </message>
     <message>
         <source>%1 is %2, not %3: %3 is only the digit in the %4 column.</source>
@@ -2096,6 +2072,18 @@ Pour prendre les images d&apos;un autre dossier, lancez Partitude avec %4 suivi 
     <message>
         <source>%1 point %2</source>
         <translation>%1 virgule %2</translation>
+    </message>
+    <message>
+        <source>Type your answer in the box first!</source>
+        <translation>Tape d&apos;abord ta réponse dans la case&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Write your number without a 0 in front.</source>
+        <translation>Écris ton nombre sans 0 devant.</translation>
+    </message>
+    <message>
+        <source>That number is too long.</source>
+        <translation>Ce nombre est trop long.</translation>
     </message>
 </context>
 <context>

@@ -107,19 +107,9 @@ Question draw(Random::Source& rnd, const Question* last)
 Verdict check(const Question& q, const QString& typed)
 {
     int value = 0;
-    switch (Places::readWhole(typed, kAnswerDigits, &value)) {
-    case Places::Typed::Empty:
-        return Verdict::notCheckable(QCoreApplication::translate("Amounts", "Type your answer in the box first!"));
-    case Places::Typed::Zero:
-        return Verdict::notCheckable(
-            QCoreApplication::translate("Amounts", "0 is not the answer: every amount here is more than 0."));
-    case Places::Typed::LeadingZero:
-        return Verdict::notCheckable(QCoreApplication::translate("Amounts", "Write your number without a 0 in front."));
-    case Places::Typed::TooLong:
-        return Verdict::notCheckable(QCoreApplication::translate("Amounts", "That number is too long."));
-    case Places::Typed::Number:
-        break;
-    }
+    const Places::Typed kind = Places::readWhole(typed, kAnswerDigits, &value);
+    if (kind != Places::Typed::Number)
+        return Verdict::notCheckable(Places::refusal(kind, QCoreApplication::translate("Amounts", "0 is not the answer: every amount here is more than 0.")));
     return value == q.answer() ? Verdict::right(q.statement()) : Verdict::wrong(q.statement());
 }
 

@@ -83,19 +83,9 @@ Question draw(Random::Source& rnd, const Question* last)
 Verdict check(const Question& q, const QString& typed)
 {
     int value = 0;
-    switch (Places::readWhole(typed, kAnswerDigits, &value)) {
-    case Places::Typed::Empty:
-        return Verdict::notCheckable(QCoreApplication::translate("HowMany", "Type your answer in the box first!"));
-    case Places::Typed::Zero:
-        return Verdict::notCheckable(
-            QCoreApplication::translate("HowMany", "0 is not the answer: look at the number again."));
-    case Places::Typed::LeadingZero:
-        return Verdict::notCheckable(QCoreApplication::translate("HowMany", "Write your number without a 0 in front."));
-    case Places::Typed::TooLong:
-        return Verdict::notCheckable(QCoreApplication::translate("HowMany", "That number is too long."));
-    case Places::Typed::Number:
-        break;
-    }
+    const Places::Typed kind = Places::readWhole(typed, kAnswerDigits, &value);
+    if (kind != Places::Typed::Number)
+        return Verdict::notCheckable(Places::refusal(kind, QCoreApplication::translate("HowMany", "0 is not the answer: look at the number again.")));
     if (value == q.answer())
         return Verdict::right(q.statement());
     const int digit = Places::digitAt(q.thousandths, q.counted);

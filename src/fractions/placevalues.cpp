@@ -133,4 +133,16 @@ Typed readWhole(const QString& typed, int mostDigits, int* value)
     return Typed::Number;
 }
 
+QString refusal(Typed kind, const QString& zeroReason)
+{
+    switch (kind) {
+    case Typed::Empty: return QCoreApplication::translate("Places", "Type your answer in the box first!");
+    case Typed::Zero: return zeroReason;
+    case Typed::LeadingZero: return QCoreApplication::translate("Places", "Write your number without a 0 in front.");
+    case Typed::TooLong: return QCoreApplication::translate("Places", "That number is too long.");
+    case Typed::Number: break;
+    }
+    return QString();
+}
+
 } // namespace Places

@@ -54,5 +54,8 @@ QString columnName(int power);
 // number. `value` is set for a number.
 enum class Typed { Empty, Zero, LeadingZero, TooLong, Number };
 Typed readWhole(const QString& typed, int mostDigits, int* value);
+// Why a typed whole number cannot be checked, for every kind but Number;
+// a zero gets the activity's own reason.
+QString refusal(Typed kind, const QString& zeroReason);
 
 } // namespace Places
