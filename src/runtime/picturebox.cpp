@@ -23,19 +23,19 @@ void PictureBox::load(const QString& assetPath)
     if (assetPath == m_path)
         return;
     m_path = assetPath;
-    m_picture = Pictures::get(assetPath);
+    Pictures::getInto(assetPath, &m_picture);
     if (m_autoSize)
         resize(drawnSize());
     // A picture that covers the box repaints only itself, never its parent.
     const QSize drawn = drawnSize();
-    setAttribute(Qt::WA_OpaquePaintEvent, drawn.width() >= width() && drawn.height() >= height() && !m_picture.hasAlpha());
+    setAttribute(Qt::WA_OpaquePaintEvent, drawn.width() >= width() && drawn.height() >= height() && !m_picture.hasAlphaChannel());
     update();
 }
 
 void PictureBox::clear()
 {
     m_path.clear();
-    m_picture = QPixmap();
+    m_picture = QImage();
     setAttribute(Qt::WA_OpaquePaintEvent, false);
     update();
 }
@@ -53,7 +53,7 @@ void PictureBox::paintEvent(QPaintEvent*)
         painter.fillRect(rect(), m_back);
     if (!m_picture.isNull()) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawPixmap(QRect(QPoint(0, 0), drawnSize()), m_picture);
+        painter.drawImage(QRect(QPoint(0, 0), drawnSize()), m_picture);
     }
 }
 

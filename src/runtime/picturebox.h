@@ -1,7 +1,7 @@
 #pragma once
 // A picture on a screen: the picture boxes and image controls of the forms.
 // It remembers the asset path it shows, so tests can read which frame is up.
-#include <QPixmap>
+#include <QImage>
 #include <QWidget>
 
 class PictureBox : public QWidget {
@@ -15,7 +15,7 @@ public:
     void load(const QString& assetPath);
     void clear();
     QString picturePath() const { return m_path; }
-    QPixmap picture() const { return m_picture; }
+    QImage picture() const { return m_picture; }
     // The picture's size on screen: its designed size times the scale.
     QSize drawnSize() const;
 
@@ -31,7 +31,7 @@ protected:
 
 private:
     QString m_path;
-    QPixmap m_picture;
+    QImage m_picture;
     QColor m_back;
     bool m_autoSize = false;
 };

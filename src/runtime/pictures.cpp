@@ -12,19 +12,64 @@
 #include <QHash>
 #include <QImageReader>
 
+#include <algorithm>
+
 namespace Pictures {
 namespace {
 QString g_folder = QStringLiteral("assets");
 int g_decodes = 0;
 
-// Kilobytes of decoded pictures kept; the title animation (50 frames) and a
-// run's reward set fit with room to spare.
-constexpr int kCacheKilobytes = 32 * 1024;
+// Kilobytes of decoded pictures kept, at the size they were designed in;
+// drawn larger they take more, by the square of the factor. Enough for a
+// screen's pictures and a menu's turning logo; an animation of more frames
+// than fit (the reward stars) reads its frames again as it plays.
+constexpr int kCacheKilobytes = 2 * 1024;
 
-QCache<QString, QPixmap>& cache()
+// Opaque pictures are kept as 3 bytes a pixel, not the screen's 4: nothing
+// is lost, and Qt turns them back into the screen's format cheaply each
+// time one is handed out.
+constexpr QImage::Format kOpaqueCached = QImage::Format_RGB888;
+// Frames kept by a Keep, a whole animation at once, take 2 bytes a pixel:
+// each is on screen for a sixtieth of a second, too briefly for the
+// coarser shades to show.
+constexpr QImage::Format kOpaqueKept = QImage::Format_RGB16;
+
+qreal deviceRatio() { return qGuiApp ? qGuiApp->devicePixelRatio() : 1.0; }
+
+// How many times larger than designed pictures are drawn, in pixels.
+qreal drawnFactor() { return Twips::scale() * deviceRatio(); }
+
+QCache<QString, QImage>& cache()
 {
-    static QCache<QString, QPixmap> c(kCacheKilobytes);
+    static QCache<QString, QImage> c;
+    const qreal factor = std::max<qreal>(1.0, drawnFactor());
+    const int budget = int(kCacheKilobytes * factor * factor);
+    if (c.maxCost() != budget)
+        c.setMaxCost(budget);
     return c;
+}
+
+// Pictures under the folders a Keep names, kept outside the cache's budget
+// while it lives.
+QHash<QString, int>& keptFolders()
+{
+    static QHash<QString, int> folders;
+    return folders;
+}
+
+QHash<QString, QImage>& kept()
+{
+    static QHash<QString, QImage> pictures;
+    return pictures;
+}
+
+bool isKept(const QString& assetPath)
+{
+    for (auto it = keptFolders().cbegin(); it != keptFolders().cend(); ++it) {
+        if (assetPath.startsWith(it.key()))
+            return true;
+    }
+    return false;
 }
 
 // Only a handful of worksheets, so every metafile read is kept.
@@ -34,12 +79,10 @@ QHash<QString, Metafile>& metafiles()
     return m;
 }
 
-qreal deviceRatio() { return qGuiApp ? qGuiApp->devicePixelRatio() : 1.0; }
-
 // Whether pictures are drawn larger than the pixels they were designed in.
-bool drawnLarger() { return Twips::scale() * deviceRatio() > 1.0; }
+bool drawnLarger() { return drawnFactor() > 1.0; }
 
-QPixmap decode(const QString& assetPath)
+QImage decode(const QString& assetPath, QImage::Format opaqueFormat)
 {
     // A picture drawn larger than designed comes from its large twin where
     // the asset tool drew one; it keeps its designed size (deviceIndependentSize).
@@ -52,7 +95,7 @@ QPixmap decode(const QString& assetPath)
     if (large) {
         // Kept at the pixels it is drawn in, not the twin's: smaller in
         // memory below twice the size, and painted without resampling.
-        const qreal factor = Twips::scale() * deviceRatio();
+        const qreal factor = drawnFactor();
         if (factor < kLargeTwinFactor) {
             const QSize drawn = (QSizeF(image.size()) * (factor / kLargeTwinFactor)).toSize();
             image = image.scaled(drawn, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -62,7 +105,27 @@ QPixmap decode(const QString& assetPath)
         }
     }
     ++g_decodes;
-    return QPixmap::fromImage(image);
+    if (!image.hasAlphaChannel())
+        return image.convertToFormat(opaqueFormat);
+    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+// The picture as decoded and kept, decoding it on first use.
+QImage stored(const QString& assetPath)
+{
+    if (isKept(assetPath)) {
+        const auto found = kept().constFind(assetPath);
+        if (found != kept().constEnd())
+            return *found;
+        const QImage image = decode(assetPath, kOpaqueKept);
+        kept().insert(assetPath, image);
+        return image;
+    }
+    if (const QImage* cached = cache().object(assetPath))
+        return *cached;
+    const QImage image = decode(assetPath, kOpaqueCached);
+    cache().insert(assetPath, new QImage(image), int(image.sizeInBytes() / 1024) + 1);
+    return image;
 }
 } // namespace
 
@@ -82,14 +145,67 @@ QString resolve(const QString& assetPath)
     return QDir(g_folder).filePath(relative);
 }
 
+void paintInto(const QImage& picture, QImage* target)
+{
+    if (picture.format() != QImage::Format_RGB16) {
+        *target = picture.hasAlphaChannel() ? picture : picture.convertToFormat(QImage::Format_RGB32);
+        return;
+    }
+    if (target->size() != picture.size() || target->format() != QImage::Format_RGB32 || !target->isDetached())
+        *target = QImage(picture.size(), QImage::Format_RGB32);
+    target->setDevicePixelRatio(picture.devicePixelRatio());
+    // Qt's own conversion from 2 bytes a pixel takes four times as long as
+    // this, which the title pays sixty times a second.
+    const int width = picture.width();
+    const int height = picture.height();
+    const qsizetype inStride = picture.bytesPerLine();
+    const qsizetype outStride = target->bytesPerLine();
+    const uchar* inBits = picture.constBits();
+    uchar* outBits = target->bits();
+    for (int y = 0; y < height; ++y) {
+        const auto* in = reinterpret_cast<const quint16*>(inBits + y * inStride);
+        auto* line = reinterpret_cast<QRgb*>(outBits + y * outStride);
+        for (int x = 0; x < width; ++x) {
+            const uint v = in[x];
+            const uint r = (v >> 11) & 0x1f;
+            const uint g = (v >> 5) & 0x3f;
+            const uint b = v & 0x1f;
+            // Each field widened by repeating its top bits, as Qt does.
+            line[x] = 0xff000000u | (((r << 3) | (r >> 2)) << 16) | (((g << 2) | (g >> 4)) << 8) | ((b << 3) | (b >> 2));
+        }
+    }
+}
+
+QImage paintable(const QImage& picture)
+{
+    QImage target;
+    paintInto(picture, &target);
+    return target;
+}
+
+void getInto(const QString& assetPath, QImage* target)
+{
+    paintInto(stored(assetPath), target);
+}
+
 QPixmap get(const QString& assetPath)
 {
-    if (const QPixmap* cached = cache().object(assetPath))
-        return *cached;
-    const QPixmap pixmap = decode(assetPath);
-    const qint64 bytes = qint64(pixmap.width()) * pixmap.height() * pixmap.depth() / 8;
-    cache().insert(assetPath, new QPixmap(pixmap), int(bytes / 1024) + 1);
-    return pixmap;
+    return QPixmap::fromImage(paintable(stored(assetPath)));
+}
+
+Keep::Keep(const QString& folder)
+    : m_folder(folder)
+{
+    keptFolders()[m_folder] += 1;
+}
+
+Keep::~Keep()
+{
+    auto folder = keptFolders().find(m_folder);
+    if (--*folder > 0)
+        return;
+    keptFolders().erase(folder);
+    kept().removeIf([](const auto& picture) { return !isKept(picture.key()); });
 }
 
 QString largeTwin(const QString& assetPath)
@@ -132,6 +248,7 @@ int decodeCount() { return g_decodes; }
 void clearCache()
 {
     cache().clear();
+    kept().clear();
     metafiles().clear();
 }
 

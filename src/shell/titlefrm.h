@@ -3,6 +3,7 @@
 // files, plays the turning sphere, and leads on to the year menu (or, on the
 // very first run, to the settings screen). Its Exit ends the program.
 #include "runtime/form.h"
+#include "runtime/pictures.h"
 
 class FormTimer;
 class PictureBox;
@@ -42,4 +43,7 @@ protected:
 
 private:
     bool readSettings();
+
+    // The sphere's frames, decoded once while the screen lives.
+    Pictures::Keep m_frames{QStringLiteral("gif\\sphfra\\")};
 };

@@ -9,6 +9,8 @@ class TestPictures : public QObject {
     Q_OBJECT
 private slots:
     void pathsResolveAndEachFileIsDecodedOnce();
+    void framesUnderAKeepStayDecodedWhileItLives();
+    void framesKeptSmallPaintAsQtWouldDrawThem();
     void eachMetafileIsReadOnce();
     void aMissingOrBrokenFileIsFatal_data();
     void aMissingOrBrokenFileIsFatal();
@@ -23,10 +25,66 @@ void TestPictures::pathsResolveAndEachFileIsDecodedOnce()
     const QPixmap a = Pictures::get("gif\\sphfra\\sphf0000.jpg");
     const QPixmap b = Pictures::get("gif\\sphfra\\sphf0000.jpg");
     QVERIFY(!a.isNull());
-    QCOMPARE(a.cacheKey(), b.cacheKey());
+    QCOMPARE(a.toImage(), b.toImage());
     QCOMPARE(Pictures::decodeCount(), before + 1);
     QVERIFY(!Pictures::icon("ico\\fraction.ico").isNull());
     QCOMPARE(Pictures::decodeCount(), before + 2);
+}
+
+void TestPictures::framesUnderAKeepStayDecodedWhileItLives()
+{
+    // The title's 50 frames are more than the cache holds: without a Keep a
+    // second turn of the sphere decodes them all again.
+    Pictures::setAssetFolder(PARTITUDE_TEST_ASSETS);
+    Pictures::clearCache();
+    const auto turn = [] {
+        for (int n = 0; n < 50; ++n)
+            QVERIFY(!Pictures::get(QStringLiteral("gif\\sphfra\\sphf00%1.jpg").arg(n, 2, 10, QLatin1Char('0'))).isNull());
+    };
+    int before = Pictures::decodeCount();
+    turn();
+    turn();
+    QCOMPARE(Pictures::decodeCount(), before + 100);
+    {
+        Pictures::Keep frames(QStringLiteral("gif\\sphfra\\"));
+        before = Pictures::decodeCount();
+        turn();
+        turn();
+        QCOMPARE(Pictures::decodeCount(), before + 50);
+        Pictures::get("jpg2\\solita05.jpg");
+        Pictures::get("jpg2\\solita05.jpg");
+        QCOMPARE(Pictures::decodeCount(), before + 51); // other folders as before
+    }
+    before = Pictures::decodeCount();
+    Pictures::get("gif\\sphfra\\sphf0000.jpg");
+    QCOMPARE(Pictures::decodeCount(), before + 1); // let go with the Keep
+}
+
+void TestPictures::framesKeptSmallPaintAsQtWouldDrawThem()
+{
+    // Every 2-byte colour, unpacked by hand, is the colour Qt makes of it.
+    QImage all(256, 256, QImage::Format_RGB16);
+    for (int y = 0; y < 256; ++y) {
+        auto* line = reinterpret_cast<quint16*>(all.scanLine(y));
+        for (int x = 0; x < 256; ++x)
+            line[x] = quint16(y * 256 + x);
+    }
+    all.setDevicePixelRatio(1.25);
+    QImage target = Pictures::paintable(all);
+    QCOMPARE(target.format(), QImage::Format_RGB32);
+    QCOMPARE(target.devicePixelRatio(), 1.25);
+    QCOMPARE(target, all.convertToFormat(QImage::Format_RGB32));
+
+    // The next frame of the same size is unpacked into the same pixels.
+    const uchar* pixels = target.constBits();
+    all.fill(Qt::red);
+    Pictures::paintInto(all, &target);
+    QCOMPARE(target.constBits(), pixels);
+    QCOMPARE(target.pixel(17, 200), qRgb(255, 0, 0));
+    // Pictures in other formats are handed on as Qt paints them.
+    const QImage clear(8, 8, QImage::Format_ARGB32_Premultiplied);
+    Pictures::paintInto(clear, &target);
+    QCOMPARE(target.format(), QImage::Format_ARGB32_Premultiplied);
 }
 
 void TestPictures::eachMetafileIsReadOnce()
