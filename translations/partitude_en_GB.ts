@@ -2230,6 +2230,18 @@ To use pictures in another folder, start Partitude with %4 and that folder.</tra
         <translation>Partitude reached its title screen (%1).
 </translation>
     </message>
+    <message>
+        <source>Its sound module cannot be loaded: it will be silent.
+</source>
+        <translation>Its sound module cannot be loaded: it will be silent.
+</translation>
+    </message>
+    <message>
+        <source>Its sounds play through %1.
+</source>
+        <translation>Its sounds play through %1.
+</translation>
+    </message>
 </context>
 <context>
     <name>Titlefrm</name>

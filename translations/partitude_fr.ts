@@ -2230,6 +2230,18 @@ Pour prendre les images d&apos;un autre dossier, lancez Partitude avec %4 suivi 
         <translation>Partitude a atteint son écran de titre (%1).
 </translation>
     </message>
+    <message>
+        <source>Its sound module cannot be loaded: it will be silent.
+</source>
+        <translation>Son module de sons ne peut pas être chargé : il restera muet.
+</translation>
+    </message>
+    <message>
+        <source>Its sounds play through %1.
+</source>
+        <translation>Ses sons passent par %1.
+</translation>
+    </message>
 </context>
 <context>
     <name>Titlefrm</name>

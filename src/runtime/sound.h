@@ -1,16 +1,14 @@
 #pragma once
 // Short sounds, named by asset paths as the screens name them
 // ("wav\harp3.wav"), found in the same assets folder as the pictures. Each
-// file is loaded once into its own QSoundEffect and kept; playing never waits
-// for the sound. Sound is a pleasure, never a reason to stop: with no audio
+// file is loaded once and kept, by the sound module (soundoutput.h) that the
+// first sound loads; playing never waits for the sound. Sound is a pleasure, never a reason to stop: with no audio
 // output, a missing file or a file that does not load, the program carries on
 // in silence.
 #include <QString>
 #include <QStringList>
 
 #include <functional>
-
-class QSoundEffect;
 
 namespace Sound {
 
@@ -21,9 +19,15 @@ void play(const QString& assetPath);
 // (unless muted, a player stands in, or there is no audio output).
 void preload(const QStringList& assetPaths);
 
-// The loaded effect of an asset, or nullptr while it has never been loaded:
-// not yet asked for, no audio output, a missing file or not a WAV file.
-QSoundEffect* effect(const QString& assetPath);
+// Whether an asset's sound has been loaded (it has not while never asked
+// for, with no audio output, a missing file or not a WAV file), and whether
+// it is playing now.
+bool isLoaded(const QString& assetPath);
+bool isPlaying(const QString& assetPath);
+
+// The sound module's file, loading it now if it is not yet; empty when it
+// cannot be loaded.
+QString moduleFile();
 
 // Whether the system has an audio output to play through.
 bool hasOutput();

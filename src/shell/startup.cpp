@@ -11,6 +11,7 @@
 #include "runtime/scaledstyle.h"
 #include "runtime/screenfit.h"
 #include "runtime/settingsfile.h"
+#include "runtime/sound.h"
 #include "runtime/twips.h"
 #include "screens.h"
 #include "titlefrm.h"
@@ -20,6 +21,7 @@
 #endif
 
 #include <QApplication>
+#include <QDir>
 #include <QPixmapCache>
 #include <QCoreApplication>
 #include <QTimer>
@@ -59,6 +61,13 @@ int reportTitle()
     }
     std::fputs(qPrintable(QCoreApplication::translate("Startup", "Partitude reached its title screen (%1).\n")
                               .arg(title->objectName())),
+               stdout);
+    // Sounds come later, from a module of their own: say which one would play them.
+    const QString sounds = Sound::moduleFile();
+    std::fputs(qPrintable(sounds.isEmpty()
+                              ? QCoreApplication::translate("Startup", "Its sound module cannot be loaded: it will be silent.\n")
+                              : QCoreApplication::translate("Startup", "Its sounds play through %1.\n")
+                                    .arg(QDir::toNativeSeparators(sounds))),
                stdout);
     return kTitleShown;
 }

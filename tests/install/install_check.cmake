@@ -53,6 +53,10 @@ start_moved(rc out err)
 if(NOT rc EQUAL 0 OR NOT out MATCHES "reached its title screen \\(Titlefrm\\)")
   message(FATAL_ERROR "the moved program did not reach its title screen (exit ${rc}):\n${out}\n${err}")
 endif()
+# Its sounds from the moved tree's own module, not from the build tree.
+if(NOT out MATCHES "Its sounds play through ${moved}/lib")
+  message(FATAL_ERROR "the moved program did not load its own sound module:\n${out}\n${err}")
+endif()
 message(STATUS "moved install: ${out}")
 
 # Without its data folder the program must say where it looked and how to
