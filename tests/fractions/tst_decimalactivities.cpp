@@ -4,6 +4,7 @@
 #include "fractions/decimalsbetween.h"
 #include "fractions/fraction.h"
 #include "fractions/rounding.h"
+#include "draws.h"
 #include "runtime/random.h"
 #include "verdicttext.h"
 
@@ -26,13 +27,11 @@ class TestDecimalActivities : public QObject {
 private slots:
     void draws()
     {
-        Random::Source rnd(3);
-        DecimalsBetween::Question lastBetween;
-        Rounding::Question lastRounding;
+        const auto betweens = drawMany<DecimalsBetween::Question>(DecimalsBetween::draw, 5000);
+        const auto roundings = drawMany<Rounding::Question>(Rounding::draw, 5000);
+        QVERIFY(!repeatsRunning(betweens) && !repeatsRunning(roundings));
         QSet<int> placesSeen, askedSeen, halvesAsked;
-        for (int i = 0; i < 5000; ++i) {
-            const DecimalsBetween::Question b = DecimalsBetween::draw(rnd, i ? &lastBetween : nullptr);
-            QVERIFY(i == 0 || !(b == lastBetween));
+        for (const DecimalsBetween::Question& b : betweens) {
             // Neighbours at the longer one's last place, one to three places.
             const int places = std::max(placesOf(b.from()), placesOf(b.to()));
             QVERIFY(places >= 1 && places <= 3);
@@ -40,10 +39,8 @@ private slots:
             QVERIFY(b.low() >= DecimalValue() && b.low() < DecimalValue::fromUnits(DecimalsBetween::kWholesBelow, 0));
             QVERIFY(b.low() < b.middle() && b.middle() < b.high());
             placesSeen << places;
-            lastBetween = b;
-
-            const Rounding::Question r = Rounding::draw(rnd, i ? &lastRounding : nullptr);
-            QVERIFY(i == 0 || !(r == lastRounding));
+        }
+        for (const Rounding::Question& r : roundings) {
             const QString n = r.written();
             QVERIFY(r.number() < DecimalValue::fromUnits(Rounding::kLargestWhole + 1, 0));
             QVERIFY(!n.endsWith(QLatin1Char('0')) && placesOf(n) > r.asked);
@@ -55,7 +52,6 @@ private slots:
             askedSeen << r.asked;
             if (half)
                 halvesAsked << r.asked;
-            lastRounding = r;
         }
         QCOMPARE(placesSeen.size(), 3);
         QCOMPARE(askedSeen.size(), 3);

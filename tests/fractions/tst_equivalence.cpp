@@ -3,6 +3,7 @@
 #include "fractions/cancelling.h"
 #include "fractions/equivalentchain.h"
 #include "fractions/fraction.h"
+#include "draws.h"
 #include "runtime/random.h"
 #include "verdicttext.h"
 
@@ -16,12 +17,10 @@ class TestEquivalence : public QObject {
 private slots:
     void chainDraws()
     {
-        Random::Source rnd(3);
-        EquivalentChain::Question last;
+        const auto all = drawMany<EquivalentChain::Question>(EquivalentChain::draw, 3000);
+        QVERIFY(!repeatsRunning(all));
         QSet<int> bottoms, multipliers;
-        for (int i = 0; i < 3000; ++i) {
-            const EquivalentChain::Question q = EquivalentChain::draw(rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || !(q == last));
+        for (const EquivalentChain::Question& q : all) {
             QVERIFY(q.bottom >= 2 && q.bottom <= 6 && q.top >= 1 && q.top < q.bottom);
             QVERIFY(inLowestTerms(q.top, q.bottom));
             QVERIFY(q.multipliers[0] >= 2 && q.multipliers[2] <= 6);
@@ -34,7 +33,6 @@ private slots:
             QCOMPARE(q.text().count(QLatin1Char('?')), 3);
             bottoms << q.bottom;
             multipliers << q.multipliers[0] * 100 + q.multipliers[1] * 10 + q.multipliers[2];
-            last = q;
         }
         QCOMPARE(bottoms, (QSet<int>{2, 3, 4, 5, 6}));
         QCOMPARE(multipliers.size(), 10); // every three of 2..6
@@ -63,12 +61,10 @@ private slots:
 
     void cancelDraws()
     {
-        Random::Source rnd(8);
-        Cancelling::Question last;
+        const auto all = drawMany<Cancelling::Question>(Cancelling::draw, 3000, 8);
+        QVERIFY(!repeatsRunning(all));
         QSet<int> simplestBottoms, factors;
-        for (int i = 0; i < 3000; ++i) {
-            const Cancelling::Question q = Cancelling::draw(rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || !(q == last));
+        for (const Cancelling::Question& q : all) {
             QVERIFY(q.simplestBottom >= 2 && q.simplestBottom <= 12);
             QVERIFY(q.simplestTop >= 1 && q.simplestTop < q.simplestBottom);
             QVERIFY(inLowestTerms(q.simplestTop, q.simplestBottom));
@@ -78,7 +74,6 @@ private slots:
             QVERIFY(q.answerText().size() <= 2 * Cancelling::kAnswerDigits + 1);
             simplestBottoms << q.simplestBottom;
             factors << q.factor;
-            last = q;
         }
         QCOMPARE(simplestBottoms.size(), 11);
         QCOMPARE(factors.size(), 9);

@@ -2,6 +2,7 @@
 // the activities' rules, and each answer gets its verdict and its sentence.
 #include "fractions/equivalentfractions.h"
 #include "fractions/fraction.h"
+#include "draws.h"
 #include "runtime/random.h"
 #include "verdicttext.h"
 
@@ -28,13 +29,10 @@ private slots:
     void pairDraws()
     {
         QFETCH(bool, onWall);
-        Random::Source rnd(3);
-        Pair last;
+        const auto all = drawMany<Pair>(onWall ? Equivalent::drawOnWall : Equivalent::drawAnywhere, 5000);
+        QVERIFY(!repeatsRunning(all));
         QSet<int> blanks, bottoms, factors;
-        for (int i = 0; i < 5000; ++i) {
-            const Pair p = onWall ? Equivalent::drawOnWall(rnd, i ? &last : nullptr)
-                                  : Equivalent::drawAnywhere(rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || !(p == last));
+        for (const Pair& p : all) {
             QVERIFY(Fractions::inLowestTerms(p.top, p.bottom) && p.top >= 1 && p.top < p.bottom);
             const int first = onWall ? Equivalent::kWallSmallestBottom : Equivalent::kSmallestBottom;
             const int most = onWall ? Equivalent::kWallLargestBottom : Equivalent::kLargestBottom;
@@ -49,7 +47,6 @@ private slots:
             blanks << int(p.blank) * 2 + int(p.largerFirst);
             bottoms << p.bottom;
             factors << p.factor;
-            last = p;
         }
         QCOMPARE(blanks.size(), onWall ? 1 : 8);
         QCOMPARE(bottoms.size(), onWall ? 5 : 11);
@@ -60,12 +57,10 @@ private slots:
     // number; three traps unequal to it and to one another; all below 1.
     void choiceDraws()
     {
-        Random::Source rnd(8);
-        Equivalent::Choice last;
+        const auto all = drawMany<Equivalent::Choice>(Equivalent::drawChoice, 5000, 8);
+        QVERIFY(!repeatsRunning(all));
         QSet<int> rightPlaces;
-        for (int i = 0; i < 5000; ++i) {
-            const Equivalent::Choice c = Equivalent::drawChoice(rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || !(c == last));
+        for (const Equivalent::Choice& c : all) {
             QVERIFY(Fractions::inLowestTerms(c.top, c.bottom) && c.top < c.bottom);
             QVERIFY(c.bottom <= Equivalent::kChoiceLargestBottom && c.factor >= 2 && c.factor <= 5);
             QSet<QString> values;
@@ -79,7 +74,6 @@ private slots:
             QCOMPARE(c.cards[c.right].top, c.top * c.factor);
             QCOMPARE(c.cards[c.right].bottom, c.bottom * c.factor);
             rightPlaces << c.right;
-            last = c;
         }
         QCOMPARE(rightPlaces.size(), Equivalent::kCards);
     }

@@ -3,6 +3,7 @@
 #include "fractions/halvesofnumbers.h"
 #include "fractions/halvesquestion.h"
 #include "fractions/halvesshapes.h"
+#include "draws.h"
 #include "runtime/random.h"
 #include "verdicttext.h"
 
@@ -17,12 +18,10 @@ class TestHalvesActivities : public QObject {
 private slots:
     void shapeDraws()
     {
-        Random::Source rnd(1);
-        HalvesShapes::Question last;
+        const auto all = drawMany<HalvesShapes::Question>(HalvesShapes::draw, 5000, 1);
+        QVERIFY(!repeatsRunning(all));
         QSet<QString> seen;
-        for (int i = 0; i < 5000; ++i) {
-            const HalvesShapes::Question q = HalvesShapes::draw(rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || !(q == last));
+        for (const HalvesShapes::Question& q : all) {
             // 2 parts ask for one half; 4 parts for 1, 2 or 3 quarters or one half.
             QVERIFY(q.parts == 4 || (q.parts == 2 && q.top == 1 && q.bottom == 2));
             QVERIFY(q.bottom == 2 || q.bottom == 4);
@@ -34,7 +33,6 @@ private slots:
                 || q.kind == ShapeKind::SquareTriangles;
             QVERIFY(!(twoOnly && q.parts != 2) && !(fourOnly && q.parts != 4));
             seen << QStringLiteral("%1:%2:%3/%4").arg(int(q.kind)).arg(q.parts).arg(q.top).arg(q.bottom);
-            last = q;
         }
         // 5 cuts in 2 with one half each, 5 cuts in 4 with four fractions each.
         QCOMPARE(seen.size(), 5 + 5 * 4);
@@ -85,19 +83,16 @@ private slots:
 
     void numberDraws()
     {
-        Random::Source rnd(5);
-        HalvesOfNumbers::Question last;
+        const auto all = drawMany<HalvesOfNumbers::Question>(HalvesOfNumbers::draw, 3000, 5);
+        QVERIFY(!repeatsRunning(all, [](const HalvesOfNumbers::Question& a, const HalvesOfNumbers::Question& b) { return a.set == b.set; }));
         QSet<int> halves, quarters;
-        for (int i = 0; i < 3000; ++i) {
-            const HalvesOfNumbers::Question q = HalvesOfNumbers::draw(rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || (!(q == last) && q.set != last.set));
+        for (const HalvesOfNumbers::Question& q : all) {
             QVERIFY(q.set >= 1 && q.set <= Halves::kSetCount);
             QVERIFY(q.amount >= q.bottom && q.amount <= 20 && q.amount % q.bottom == 0);
             QVERIFY((q.bottom == 2 && q.top == 1) || (q.bottom == 4 && q.top >= 1 && q.top <= 3));
             QVERIFY(q.answer() * q.bottom == q.amount * q.top);
             QVERIFY(QString::number(q.answer()).size() <= HalvesOfNumbers::kAnswerDigits);
             (q.bottom == 2 ? halves : quarters) << q.amount;
-            last = q;
         }
         QCOMPARE(halves, (QSet<int>{2, 4, 6, 8, 10, 12, 14, 16, 18, 20}));
         QCOMPARE(quarters, (QSet<int>{4, 8, 12, 16, 20}));

@@ -5,6 +5,7 @@
 #include "fractions/fraction.h"
 #include "fractions/namefraction.h"
 #include "kit/parts/shapes.h"
+#include "draws.h"
 #include "runtime/random.h"
 #include "verdicttext.h"
 
@@ -42,14 +43,13 @@ private slots:
     {
         QFETCH(Mode, mode);
         QFETCH(QSet<int>, pictures);
-        Random::Source rnd(3);
-        Named last;
+        const auto all = drawMany<Named>(
+            [mode](Random::Source& rnd, const Named* last) { return NameFraction::draw(mode, rnd, last); }, 6000);
+        QVERIFY(!repeatsRunning(all));
         QMap<ShapeKind, QSet<int>> cuts;
         QSet<int> kinds, squares, sets;
         int columns = 0;
-        for (int i = 0; i < 6000; ++i) {
-            const Named q = NameFraction::draw(mode, rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || !(q == last));
+        for (const Named& q : all) {
             QVERIFY(q.shaded >= 1 && q.shaded < q.parts);
             for (int part : {0, 1})
                 QVERIFY(NameFraction::counted(q).section(QLatin1Char('/'), part, part).size()
@@ -72,7 +72,6 @@ private slots:
                 sets << q.set;
                 break;
             }
-            last = q;
         }
         QCOMPARE(kinds, pictures);
         QCOMPARE(cuts.keys(), (QList<ShapeKind>{ShapeKind::Circle, ShapeKind::Strip, ShapeKind::TwoRowRectangle}));
@@ -154,12 +153,10 @@ private slots:
     {
         using CompareFractions::Kind;
         const int draws = 16000;
-        Random::Source rnd(8);
-        Compared last;
+        const auto all = drawMany<Compared>(CompareFractions::draw, draws, 8);
+        QVERIFY(!repeatsRunning(all));
         QMap<Kind, int> kinds;
-        for (int i = 0; i < draws; ++i) {
-            const Compared q = CompareFractions::draw(rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || !(q == last));
+        for (const Compared& q : all) {
             for (auto [top, bottom] : {std::pair{q.leftTop, q.leftBottom}, std::pair{q.rightTop, q.rightBottom}})
                 QVERIFY(top >= 1 && top < bottom && bottom <= CompareFractions::kLargestBottom);
             const bool equal = Fractions::Fraction(q.leftTop, q.leftBottom) == Fractions::Fraction(q.rightTop, q.rightBottom);
@@ -174,7 +171,6 @@ private slots:
             else if (q.kind == Kind::UnitFractions)
                 QVERIFY(q.leftTop == 1 && q.rightTop == 1);
             ++kinds[q.kind];
-            last = q;
         }
         QCOMPARE(kinds.size(), 4);
         // One in eight: 2000 of 16000, well within chance's reach.

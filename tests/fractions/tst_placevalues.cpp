@@ -5,6 +5,7 @@
 #include "fractions/findingamounts.h"
 #include "fractions/fraction.h"
 #include "fractions/howmany.h"
+#include "draws.h"
 #include "runtime/random.h"
 #include "verdicttext.h"
 
@@ -19,7 +20,6 @@ Q_DECLARE_METATYPE(HowMany::Question)
 
 namespace {
 constexpr int kDraws = 3000;
-constexpr quint64 kSeed = 77;
 } // namespace
 
 class TestPlaceValues : public QObject {
@@ -37,12 +37,10 @@ private slots:
 
     void howManyDraws()
     {
-        Random::Source rnd(kSeed);
-        Count last;
+        const auto all = drawMany<Count>(HowMany::draw, kDraws);
+        QVERIFY(!repeatsRunning(all));
         QSet<int> kinds;
-        for (int i = 0; i < kDraws; ++i) {
-            const Count q = HowMany::draw(rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || !(q == last));
+        for (const Count& q : all) {
             QVERIFY(q.counted >= Places::kThousandths && q.counted <= Places::kTenths);
             // Written with no more places than the place counted, and no 0 at its end.
             QVERIFY(q.places >= 0 && q.places <= -q.counted);
@@ -53,7 +51,6 @@ private slots:
             QVERIFY(q.answer() > 0 && QString::number(q.answer()).size() <= HowMany::kAnswerDigits);
             QCOMPARE(q.answer() * Places::tenTo(Places::kMostPlaces + q.counted), q.thousandths);
             kinds << q.counted * 10 - q.places;
-            last = q;
         }
         // Every place counted, with every number of places (thousandths in numbers below 1 only).
         QCOMPARE(kinds.size(), 2 + 3 + 3);
@@ -114,12 +111,10 @@ private slots:
     void amountDraws()
     {
         const QSet<int> percents(std::begin(Amounts::kPercents), std::end(Amounts::kPercents));
-        Random::Source rnd(kSeed);
-        Amount last;
+        const auto all = drawMany<Amount>(Amounts::draw, kDraws);
+        QVERIFY(!repeatsRunning(all));
         QSet<int> kinds, units;
-        for (int i = 0; i < kDraws; ++i) {
-            const Amount q = Amounts::draw(rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || !(q == last));
+        for (const Amount& q : all) {
             QVERIFY(q.amount >= 1 && q.amount <= Amounts::kLargestAmount);
             if (q.isPercent()) {
                 QVERIFY(percents.contains(q.percent));
@@ -137,7 +132,6 @@ private slots:
             QCOMPARE(bar.parts * bar.perPart, q.amount);
             QVERIFY(bar.shaded >= 0 && bar.shaded <= bar.parts && bar.perPart * bar.shaded <= q.answer());
             units << int(q.unit);
-            last = q;
         }
         QCOMPARE(kinds.size(), int(percents.size()) + Amounts::kLargestBottom - 1);
         QCOMPARE(units.size(), 4);
@@ -192,12 +186,10 @@ private slots:
 
     void digitDraws()
     {
-        Random::Source rnd(kSeed);
-        Digits::Question last;
+        const auto all = drawMany<Digits::Question>(Digits::draw, kDraws);
+        QVERIFY(!repeatsRunning(all));
         QSet<int> marked;
-        for (int i = 0; i < kDraws; ++i) {
-            const Digits::Question q = Digits::draw(rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || !(q == last));
+        for (const Digits::Question& q : all) {
             const QString number = q.number();
             QVERIFY(q.thousandths / Places::kScale <= Digits::kLargestWhole);
             QVERIFY(q.places >= 1 && q.places <= Places::kMostPlaces);
@@ -213,7 +205,6 @@ private slots:
                 QVERIFY(place >= Places::kThousandths && place <= Places::kTens);
             QCOMPARE(q.cards.value(q.right), q.marked);
             marked << q.marked * 10 + q.right;
-            last = q;
         }
         QCOMPARE(marked.size(), 5 * Digits::kCards); // every place, on every card
     }

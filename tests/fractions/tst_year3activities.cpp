@@ -4,6 +4,7 @@
 #include "fractions/fractionof.h"
 #include "fractions/halvesquestion.h"
 #include "fractions/partsofset.h"
+#include "draws.h"
 #include "runtime/random.h"
 #include "verdicttext.h"
 
@@ -23,20 +24,17 @@ private slots:
                                           {3, {3, 6, 9, 12, 15, 18}},
                                           {4, {4, 8, 12, 16, 20}},
                                           {10, {10, 20}}};
-        Random::Source rnd(3);
-        PartsOfSet::Question last;
+        const auto all = drawMany<PartsOfSet::Question>(PartsOfSet::draw, 3000);
+        QVERIFY(!repeatsRunning(all, [](const PartsOfSet::Question& a, const PartsOfSet::Question& b) { return a.set == b.set; }));
         QMap<int, QSet<int>> seenCounts;
         QSet<QString> seenFractions;
-        for (int i = 0; i < 3000; ++i) {
-            const PartsOfSet::Question q = PartsOfSet::draw(rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || (!(q == last) && q.set != last.set));
+        for (const PartsOfSet::Question& q : all) {
             QVERIFY(q.set >= 1 && q.set <= Halves::kSetCount);
             QVERIFY(q.howmany <= PartsOfSet::kMostPictures && q.howmany % q.bottom == 0);
             QVERIFY(counts.value(q.bottom).contains(q.howmany));
             QVERIFY(q.target() * q.bottom == q.howmany * q.top && q.target() >= 1 && q.target() < q.howmany);
             seenCounts[q.bottom] << q.howmany;
             seenFractions << QStringLiteral("%1/%2").arg(q.top).arg(q.bottom);
-            last = q;
         }
         QCOMPARE(seenCounts, counts);
         QCOMPARE(seenFractions, (QSet<QString>{"1/2", "1/3", "2/3", "1/4", "3/4", "1/10", "3/10", "7/10", "9/10"}));
@@ -82,13 +80,12 @@ private slots:
         QFETCH(int, digits);
         const FractionOf::Ranges& ranges = year == 3 ? FractionOf::kYear3 : FractionOf::kYear5;
         QCOMPARE(FractionOf::answerDigits(ranges), digits);
-        Random::Source rnd(8);
-        FractionOf::Question last;
+        const auto all = drawMany<FractionOf::Question>(
+            [&](Random::Source& rnd, const FractionOf::Question* last) { return FractionOf::draw(ranges, rnd, last); }, 5000, 8);
+        QVERIFY(!repeatsRunning(all));
         QSet<int> seenBottoms, seenTimes;
         int longest = 0;
-        for (int i = 0; i < 5000; ++i) {
-            const FractionOf::Question q = FractionOf::draw(ranges, rnd, i ? &last : nullptr);
-            QVERIFY(i == 0 || !(q == last));
+        for (const FractionOf::Question& q : all) {
             QVERIFY(bottoms.contains(q.bottom) && q.top >= 1 && q.top < q.bottom);
             const int times = q.amount / q.bottom;
             QVERIFY(q.amount == q.bottom * times && times >= leastTimes && times <= mostTimes);
@@ -96,7 +93,6 @@ private slots:
             longest = std::max(longest, int(QString::number(q.answer()).size()));
             seenBottoms << q.bottom;
             seenTimes << times;
-            last = q;
         }
         QCOMPARE(longest, digits);
         QCOMPARE(seenBottoms.size(), bottoms.size());
