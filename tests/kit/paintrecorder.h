@@ -1,6 +1,5 @@
 #pragma once
-// A paint device that keeps what is painted on it instead of pixels: every
-// piece of text with the box it covers, and every picture with its place.
+// A paint device that keeps each text with its box and each picture with its place, not pixels.
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPaintEngine>

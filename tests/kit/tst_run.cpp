@@ -100,8 +100,7 @@ private slots:
         Forms::registerForm(kScreen, [] { return new ProbeScreen; });
     }
 
-    // Right answers move the picture on; a slip, an unchecked answer and a hint cost nothing in
-    // practice; the tenth right answer ends the run with the ready text and the certificate.
+    // In practice slips and hints cost nothing; the tenth right answer brings the certificate.
     void practiceToTheCertificate()
     {
         ProbeScreen* form = openFromMenu();

@@ -8,14 +8,10 @@
 Q_DECLARE_METATYPE(ShapeKind)
 
 namespace {
-// Wider than tall and away from the origin, so centring shows.
-const QRectF kBox(12, 30, 330, 250);
-// An odd step and offset, so no sample lands on a cut.
-constexpr int kSamplesAcross = 223;
+const QRectF kBox(12, 30, 330, 250); // wider than tall and away from the origin, so centring shows
+constexpr int kSamplesAcross = 223; // an odd step and offset, so no sample lands on a cut
 constexpr double kSampleOffset = 0.3183;
-// Samples this close to the edge are left out: the circle's sectors and its
-// outline are each only a close curve fit.
-constexpr double kEdgeSlack = 0.5;
+constexpr double kEdgeSlack = 0.5; // samples this near an edge are left out: a circle is a curve fit
 constexpr double kAreaTolerance = 0.01;
 
 // A part's area, and the middle of its area (inside it, as every part is convex).
@@ -83,8 +79,7 @@ private slots:
         const bool round = kind == ShapeKind::Circle;
         const double side = std::min(kBox.width(), kBox.height());
         QVERIFY(kBox.adjusted(-kEdgeSlack, -kEdgeSlack, kEdgeSlack, kEdgeSlack).contains(frame));
-        QVERIFY(std::abs(frame.center().x() - kBox.center().x()) < kEdgeSlack);
-        QVERIFY(std::abs(frame.center().y() - kBox.center().y()) < kEdgeSlack);
+        QVERIFY(QLineF(frame.center(), kBox.center()).length() < kEdgeSlack);
         QVERIFY(std::abs(frame.width() - kBox.width()) < kEdgeSlack
                 || std::abs(frame.height() - kBox.height()) < kEdgeSlack);
         if (round || shapeNoun(kind) == QLatin1String("square"))
@@ -109,12 +104,9 @@ private slots:
                 spills += inside < 0 && in > 0;
             }
         }
-        QCOMPARE(overlaps, 0);
-        QCOMPARE(gaps, 0);
-        QCOMPARE(spills, 0);
+        QCOMPARE((QList<int>{overlaps, gaps, spills}), (QList<int>{0, 0, 0}));
 
-        // Equal areas; sectors clockwise from 12 o'clock (y grows downwards),
-        // other parts left to right along a row, rows from the top.
+        // Equal areas; sectors clockwise from 12 o'clock, other parts in rows from the top left.
         QVector<double> xs, ys;
         for (int i = 0; i < parts; ++i) {
             double area = 0;
