@@ -10,6 +10,7 @@
 #include "testsupport.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
@@ -55,11 +56,32 @@ Board* start(const QString& screen, Screen** opened = nullptr)
 }
 
 // Types `text` into the box (by default the one holding the keyboard) and
-// presses Enter.
-inline void enter(const QString& text, QWidget* box = QApplication::focusWidget())
+// presses Enter, or the key given.
+inline void enter(const QString& text, QWidget* box = QApplication::focusWidget(), Qt::Key end = Qt::Key_Return)
 {
     QTest::keyClicks(box, text);
-    QTest::keyClick(box, Qt::Key_Return);
+    QTest::keyClick(box, end);
+}
+
+// Types `text` as enter() does; returns what the screen then says.
+inline QString said(KitScreen* form, const QString& text, QWidget* box = QApplication::focusWidget())
+{
+    enter(text, box);
+    return form->Label2->text();
+}
+
+// Presses Hint; returns what the screen then says.
+inline QString hint(KitScreen* form)
+{
+    form->cmdhint->click();
+    return form->Label2->text();
+}
+
+// A right answer: counted as the `counted`th, and praised before `statement`.
+inline void expectPraised(KitScreen* form, const QString& statement, int counted = 1)
+{
+    QCOMPARE(Module1::counter, counted);
+    QCOMPARE(form->Label2->text(), Module1::praisetext + statement);
 }
 
 } // namespace ActivityTest

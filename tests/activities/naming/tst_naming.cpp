@@ -1,6 +1,5 @@
-// The two screens that name the fraction shown, Halves, Quarters, Thirds
-// and Tenths 2 and Write A Fraction, played with the keyboard alone from
-// their menus.
+// The two screens that name the fraction shown, Halves, Quarters, Thirds and
+// Tenths 2 and Write A Fraction, played with the keyboard alone from their menus.
 #include "activities/naming/namingboard.h"
 #include "fractions/halvesquestion.h"
 #include "kit/kitscreen.h"
@@ -9,29 +8,7 @@
 #include "kit/parts/shapeboard.h"
 #include "activitytest.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QtTest>
-
 using namespace Module1;
-
-class TestNaming : public QObject {
-    Q_OBJECT
-private slots:
-    void init() { world.fresh(23); }
-    void oneQuestionByKeyboard_data() { screens(); }
-    void oneQuestionByKeyboard();
-
-private:
-    static void screens()
-    {
-        QTest::addColumn<QString>("screen");
-        QTest::newRow("Year 3") << "y3fract2";
-        QTest::newRow("Write A Fraction") << "y4fract4";
-    }
-    TestSupport::World world;
-};
 
 // The picture on show, and what a screen reader should hear of it.
 static QWidget* shownPicture(NamingBoard* board, QString* spoken)
@@ -51,46 +28,56 @@ static QWidget* shownPicture(NamingBoard* board, QString* spoken)
     return nullptr;
 }
 
-// Start; an empty Enter and a 0 are refused; the hint numbers the parts;
-// top number, Enter, bottom number, Enter checks; then a wrong answer.
-void TestNaming::oneQuestionByKeyboard()
-{
-    QFETCH(QString, screen);
-    KitScreen* form = nullptr;
-    auto* board = ActivityTest::start<NamingBoard>(screen, &form);
-    QVERIFY(board);
-    QCOMPARE(QApplication::focusWidget(), board->Text1);
-    const NameFraction::Question q = board->question();
-    QCOMPARE(form->Label1->text(), q.instruction());
-    QString spoken;
-    QWidget* picture = shownPicture(board, &spoken);
-    QVERIFY(picture->isVisible());
-    QCOMPARE(picture->accessibleName(), spoken);
+class TestNaming : public QObject {
+    Q_OBJECT
+    TestSupport::World world;
+private slots:
+    void init() { world.fresh(23); }
 
-    ActivityTest::enter(QString());
-    QCOMPARE(form->Label2->text(), QStringLiteral("Type the top number and the bottom number first!"));
-    ActivityTest::enter(QStringLiteral("0"));
-    QVERIFY(form->Label2->text().startsWith(QStringLiteral("The top number cannot be 0")));
-    form->cmdhint->click();
-    QCOMPARE(form->Label2->text(), NameFraction::hint(q));
-    QCOMPARE(board->Shape1->isNumbered() || board->Picture2->isNumbered() || board->Square1->isVisible(), true);
+    void oneQuestionByKeyboard_data()
+    {
+        QTest::addColumn<QString>("screen");
+        QTest::newRow("Year 3") << "y3fract2";
+        QTest::newRow("Write A Fraction") << "y4fract4";
+    }
 
-    ActivityTest::enter(QString::number(q.shaded));
-    QCOMPARE(QApplication::focusWidget(), board->Text2);
-    ActivityTest::enter(QString::number(q.parts));
-    QCOMPARE(counter, 1);
-    QCOMPARE(form->Label2->text(), praisetext + NameFraction::check(q, QString::number(q.shaded), QString::number(q.parts)).statement);
+    // Start; an empty Enter and a 0 are refused; the hint numbers the parts;
+    // top number, Enter, bottom number, Enter checks; then a wrong answer.
+    void oneQuestionByKeyboard()
+    {
+        QFETCH(QString, screen);
+        KitScreen* form = nullptr;
+        auto* board = ActivityTest::start<NamingBoard>(screen, &form);
+        QVERIFY(board);
+        QCOMPARE(QApplication::focusWidget(), board->Text1);
+        const NameFraction::Question q = board->question();
+        QCOMPARE(form->Label1->text(), q.instruction());
+        QString spoken;
+        QWidget* picture = shownPicture(board, &spoken);
+        QVERIFY(picture->isVisible());
+        QCOMPARE(picture->accessibleName(), spoken);
 
-    form->setEnabled(true); // as when the stars have played
-    form->Timer3_Timer();
-    QVERIFY(board->Text1->text().isEmpty() && !board->Shape1->isNumbered());
-    QCOMPARE(QApplication::focusWidget(), board->Text1);
-    const NameFraction::Question next = board->question();
-    ActivityTest::enter(QString::number(next.parts));
-    ActivityTest::enter(QString::number(next.shaded)); // upside down
-    QCOMPARE(counter, 1);
-    QVERIFY(form->Label2->text().startsWith(QStringLiteral("Not quite. %1 of ").arg(NameFraction::counted(next))));
-}
+        QCOMPARE(ActivityTest::said(form, QString()), QStringLiteral("Type the top number and the bottom number first!"));
+        QVERIFY(ActivityTest::said(form, QStringLiteral("0")).startsWith(QStringLiteral("The top number cannot be 0")));
+        QCOMPARE(ActivityTest::hint(form), NameFraction::hint(q));
+        QVERIFY(board->Shape1->isNumbered() || board->Picture2->isNumbered() || board->Square1->isVisible());
+
+        ActivityTest::enter(QString::number(q.shaded));
+        QCOMPARE(QApplication::focusWidget(), board->Text2);
+        ActivityTest::enter(QString::number(q.parts));
+        ActivityTest::expectPraised(form, NameFraction::check(q, QString::number(q.shaded), QString::number(q.parts)).statement);
+
+        form->setEnabled(true); // as when the stars have played
+        form->Timer3_Timer();
+        QVERIFY(board->Text1->text().isEmpty() && !board->Shape1->isNumbered());
+        QCOMPARE(QApplication::focusWidget(), board->Text1);
+        const NameFraction::Question next = board->question();
+        ActivityTest::enter(QString::number(next.parts));
+        ActivityTest::enter(QString::number(next.shaded)); // upside down
+        QCOMPARE(counter, 1);
+        QVERIFY(form->Label2->text().startsWith(QStringLiteral("Not quite. %1 of ").arg(NameFraction::counted(next))));
+    }
+};
 
 QTEST_MAIN(TestNaming)
 #include "tst_naming.moc"
