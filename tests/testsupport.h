@@ -6,6 +6,7 @@
 #include "runtime/fullscreen.h"
 #include "runtime/msgbox.h"
 #include "runtime/pictures.h"
+#include "runtime/printer.h"
 #include "runtime/random.h"
 #include "runtime/settingsfile.h"
 #include "runtime/sound.h"
@@ -104,6 +105,31 @@ struct World {
     }
 
     QString settingsFile(const QString& name) const { return settings->filePath(name); }
+
+    // The settings files an earlier run left: by default the primary edition, sound offered.
+    void writeSettings(const QByteArray& edition = "0\r\n", const QByteArray& sound = "0\r\n")
+    {
+        writeBytes(settingsFile(QStringLiteral("primary.inf")), edition);
+        writeBytes(settingsFile(QStringLiteral("sound.inf")), sound);
+    }
+
+    // Printing goes to PDF files in the test's own folder; when blocked, a file stands in the folder's place and it fails.
+    QString printToPdf(bool blocked = false)
+    {
+        const QString folder = settingsFile(blocked ? QStringLiteral("blocked") : QStringLiteral("pdf"));
+        if (blocked)
+            writeBytes(folder, "not a folder");
+        PrintTarget::setPdfFolder(folder);
+        return folder;
+    }
+
+    // What a screen finds when the child arrives at it from a menu: primary edition, no sound.
+    static void arrive(const QString& yearlabel = QStringLiteral("Year 2"), int streak = 10)
+    {
+        Module1::version = Module1::soundsetting = QStringLiteral("0");
+        Module1::yearlabel = yearlabel;
+        Module1::streak = streak;
+    }
 };
 
 } // namespace TestSupport

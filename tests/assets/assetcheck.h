@@ -61,8 +61,7 @@ inline Difference compare(const QImage &a, const QImage &b, int threshold = 48)
     return d;
 }
 
-// Share of the pixels down the left and right sides, or round the whole
-// rim, that are within `tolerance` of `colour`.
+// Share of the pixels down the left and right sides, or round the whole rim, that are within `tolerance` of `colour`.
 inline double edgeShare(const QImage &image, const QColor &colour, int tolerance, bool sidesOnly)
 {
     const int w = image.width(), h = image.height();

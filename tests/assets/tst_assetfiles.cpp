@@ -1,5 +1,4 @@
-// The files drawassets writes into the build tree, and the GIF writer that
-// makes some of them.
+// The files drawassets writes into the build tree, and the GIF writer that makes some of them.
 #include "assetcheck.h"
 #include "gifwriter.h"
 #include "menus/menulook.h"

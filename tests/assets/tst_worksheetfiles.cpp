@@ -1,5 +1,4 @@
-// The six worksheet metafiles drawassets writes, read whole by the program's
-// reader, and the rules their exercises follow.
+// The six worksheet metafiles drawassets writes, read whole by the program's reader, and the rules their exercises follow.
 #include "runtime/metafile.h"
 #include "worksheetexercises.h"
 
@@ -84,8 +83,7 @@ QString mixedProblem(const QStringList &t)
     return QString();
 }
 
-// Place In Order: twelve sets of five different decimals of one whole part,
-// with one, two and three decimal places among them.
+// Place In Order: twelve sets of five different decimals of one whole part, with one, two and three decimal places among them.
 QString orderingProblem(const QStringList &texts)
 {
     const QRegularExpression form(QStringLiteral("^([1-5])\\.[1-9]{1,3}$"));
@@ -110,8 +108,7 @@ QString orderingProblem(const QStringList &texts)
     return QString();
 }
 
-// One sheet: its file, the edition's label, title, instruction, the other
-// edition's sheet, and which rules its exercises follow.
+// One sheet: its file, the edition's label, title, instruction, the other edition's sheet, and which rules its exercises follow.
 struct SheetRow { QString file, label, title, instruction, twin; Kind kind; };
 
 } // namespace

@@ -79,10 +79,8 @@ private slots:
         QTest::addColumn<int>("visitsBefore");
         QTest::addColumn<bool>("greeted");
         for (const char* screen : {"Y2fractions", "Y2fractions2", "y5fract4", "Y6fract3"}) {
-            QTest::addRow("%s, first activity", screen) << screen << 0 << true;
             QTest::addRow("%s, third activity", screen) << screen << 2 << true;
             QTest::addRow("%s, fourth activity", screen) << screen << 3 << false;
-            QTest::addRow("%s, tenth activity", screen) << screen << 9 << false;
         }
     }
     void onlyTheFirstActivitiesAreGreeted()

@@ -27,15 +27,14 @@ Welldone* showWelldone(int challengeState)
 class TestWelldone : public QObject {
     Q_OBJECT
     TestSupport::World world;
-    std::unique_ptr<QTemporaryDir> pdfs;
-    int printed() const { return int(PdfSupport::files(pdfs->path()).size()); }
+    QString pdfs;
+    int printed() const { return int(PdfSupport::files(pdfs).size()); }
 
 private slots:
     void init()
     {
         world.fresh();
-        pdfs = std::make_unique<QTemporaryDir>();
-        PrintTarget::setPdfFolder(pdfs->path());
+        pdfs = world.printToPdf();
         activitytitle = QStringLiteral("Halves and Quarters 1");
         yearlabel = QStringLiteral("Year 2");
     }
@@ -74,7 +73,7 @@ private slots:
         form->Command2->click();
         QVERIFY(world.messages.isEmpty());
         QCOMPARE(challenge, state); // printing leaves the run's state alone
-        const QStringList pdfFiles = PdfSupport::files(pdfs->path());
+        const QStringList pdfFiles = PdfSupport::files(pdfs);
         QCOMPARE(pdfFiles.size(), 1);
         const QStringList lines = PdfSupport::lines(pdfFiles[0]);
         const QString all = lines.join(QLatin1Char('\n'));
@@ -120,16 +119,14 @@ private slots:
     // A PDF "folder" that is a file cannot be written to; the printer tries afresh next time.
     void aPageThatCannotOpenIsTold()
     {
-        const QString blocked = pdfs->filePath(QStringLiteral("blocked"));
-        TestSupport::writeBytes(blocked, "not a folder");
-        PrintTarget::setPdfFolder(blocked);
+        world.printToPdf(true);
         Welldone* form = showWelldone(0);
         form->Command2->click();
         QCOMPARE(world.messages.size(), 1);
         QCOMPARE(world.messages[0].text, QStringLiteral("There was a problem printing to your printer."));
         QCOMPARE(world.messages[0].buttons, MsgBox::Buttons::Ok);
         QVERIFY(!form->Command2->isEnabled() && form->isVisible());
-        PrintTarget::setPdfFolder(pdfs->path());
+        PrintTarget::setPdfFolder(pdfs);
         showWelldone(0)->Command2->click();
         QVERIFY(world.messages.size() == 1 && printed() == 1);
     }

@@ -335,7 +335,7 @@ private slots:
         QRandomGenerator random(20240607);
         const int extremes[] = {0x0000, 0x0001, 0x7FFF, 0x8000, 0xFFFF};
         int accepted = 0;
-        for (int round = 0; round < 5000; ++round) {
+        for (int round = 0; round < 2000; ++round) {
             QByteArray bytes = file;
             for (int change = random.bounded(1, 5); change > 0 && !bytes.isEmpty(); --change) {
                 const int at = random.bounded(int(bytes.size()));
@@ -352,7 +352,7 @@ private slots:
             }
             accepted += !render(Exact(bytes).bytes, {32, 32}).isNull(); // played, if read
         }
-        QVERIFY2(accepted > 1000 && accepted < 4000, qPrintable(QStringLiteral("%1 of 5000 read").arg(accepted)));
+        QVERIFY2(accepted > 400 && accepted < 1600, qPrintable(QStringLiteral("%1 of 2000 read").arg(accepted)));
     }
 
 };

@@ -1,5 +1,4 @@
-// Pictures follow the screens' scale, drawn from the large twin when larger
-// than designed; icons are sized for the scale.
+// Pictures follow the screens' scale, drawn from the large twin when larger than designed; icons are sized for the scale.
 #include "runtime/picturebox.h"
 #include "runtime/pictures.h"
 #include "runtime/twips.h"

@@ -121,8 +121,7 @@ private slots:
         probe.setSource(source);
         QTRY_COMPARE_WITH_TIMEOUT(probe.status(), QSoundEffect::Ready, kLoadTimeoutMs);
 
-        // The program's layer loads each file only with an output, and never
-        // starts it by loading.
+        // The program's layer loads each file only with an output, and never starts it by loading.
         Sound::preload({file});
         QCOMPARE(Sound::isLoaded(file), Sound::hasOutput());
         QVERIFY(!Sound::isPlaying(file));

@@ -75,8 +75,7 @@ public:
         return record(0x0A32, QVector<int>{y, x, int(s.size()), options} + box + text(s) + dx);
     }
 
-    // The placeable header with its checksum, the metafile header, the
-    // records and an end record.
+    // The placeable header with its checksum, the metafile header, the records and an end record.
     QByteArray bytes() const
     {
         QVector<int> words{0xCDD7, 0x9AC6, 0, bounds.left(), bounds.top(), bounds.left() + bounds.width(),

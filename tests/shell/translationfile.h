@@ -1,6 +1,5 @@
 #pragma once
-// A translation source file (.ts) as its messages, read with
-// QXmlStreamReader, for the tests that check the translations.
+// A translation source file (.ts) as its messages, read with QXmlStreamReader, for the tests that check the translations.
 #include <QFile>
 #include <QList>
 #include <QString>

@@ -1,5 +1,4 @@
-// Bad input from outside: settings files and folder, the display, the asset
-// folder and the command line. What ends the process runs as a child program.
+// Bad input from outside (settings folder, display, asset folder, command line); what ends the process runs as a child.
 #include "shell/displayprobe.h"
 #include "shell/form1.h"
 #include "shell/titlefrm.h"
@@ -30,38 +29,6 @@ class TestBadInput : public QObject {
     Q_OBJECT
 private slots:
     void init() { world.fresh(); }
-
-    void anEditionThatIsNoEditionLeadsToTheChoice_data()
-    {
-        QTest::addColumn<QByteArray>("edition");
-        for (const char* value : {"-1.0", "-1e0", " -1 ", "-1", "2", "0.5", "nan", "1e9"})
-            QTest::newRow(value) << QByteArray(value).append("\r\n");
-    }
-    void anEditionThatIsNoEditionLeadsToTheChoice()
-    {
-        QFETCH(QByteArray, edition);
-        writeBytes(world.settingsFile("primary.inf"), edition);
-        writeBytes(world.settingsFile("sound.inf"), "1\r\n");
-        Titlefrm* title = Forms::show<Titlefrm>();
-        QVERIFY(!title->Command2->isEnabled()); // no edition yet: only on
-        QTest::mouseClick(title->Command1, Qt::LeftButton);
-        Form1* settings = Forms::find<Form1>();
-        QVERIFY(settings && settings->Frame1->isVisible() && settings->Option1->isChecked()); // the choice is offered
-        QCOMPARE(fileBytes(world.settingsFile("primary.inf")), QByteArray("0\r\n"));
-        QTest::mouseClick(settings->Option2, Qt::LeftButton);
-        QTest::mouseClick(settings->Command1, Qt::LeftButton);
-        QVERIFY(Forms::isLoaded("Year"));
-
-        // The next start is not locked: Exit works and OK goes to the year menu.
-        TestSupport::unloadAll();
-        Module1::reset();
-        title = Forms::show<Titlefrm>();
-        QCOMPARE(Module1::version, QString("1"));
-        QVERIFY(title->Command2->isEnabled());
-        QTest::mouseClick(title->Command1, Qt::LeftButton);
-        QVERIFY(Forms::isLoaded("Year"));
-        QVERIFY(world.messages.isEmpty());
-    }
 
     void anUnwritableSettingsFolderIsToldOnce_data()
     {

@@ -1,5 +1,4 @@
-// Full screen: each screen centred over a window of its back colour covering
-// the display; F11 turns it on and off; the window behind follows its screen.
+// Full screen: each screen centred over a window of its colour covering the display; F11 toggles; the window follows.
 #include "runtime/form.h"
 #include "runtime/fullscreen.h"
 #include "runtime/options.h"
@@ -17,12 +16,7 @@ class TestFullScreen : public QObject {
 private slots:
     void initTestCase() { FullScreen::installKey(); }
 
-    void init()
-    {
-        world.fresh();
-        Module1::version = Module1::soundsetting = QStringLiteral("0");
-        Module1::yearlabel = QStringLiteral("Year 2");
-    }
+    void init() { world.fresh(); world.arrive(); }
 
     void cleanup()
     {

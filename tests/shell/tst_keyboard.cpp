@@ -1,5 +1,4 @@
-// The keyboard alone works every screen: Tab reads it as a child reads, Return
-// and Space press, Escape goes back, and a ring shows where the focus is.
+// The keyboard works every screen (Tab as a child reads, Return and Space press, a ring shows the focus); Escape and the close box go back.
 #include "activities/activitytable.h"
 #include "activities/mixed/y5fract4.h"
 #include "menus/activitymenu.h"
@@ -21,22 +20,21 @@ namespace {
 struct Screen {
     const char* name;
     const char* under = nullptr;  // the screen shown first
-    const char* via = nullptr;    // its button that opens this one
     const char* afterEscape = ""; // the screens on show afterwards; nullptr: as before
     const char* tabs = nullptr;   // the controls Tab takes, from the first; nullptr: by reading order
 };
 
 const Screen kScreens[] = {
-    {"Titlefrm", nullptr, nullptr, "Titlefrm", "Command1,Command2"},
-    {"Form1", nullptr, nullptr, "Year", "Command1,Check2"},
-    {"Year", nullptr, nullptr, "Titlefrm", "Command5,Command2,Command3,Command6,Command1,Check1,Command4"},
-    {"Grey", nullptr, nullptr, nullptr, ""},
-    {"Reward", "Y6fract3", nullptr, "Y6fract3", ""},
-    {"Welldone", "Y6fract3", nullptr, "Y6fract3", "Text1,Command2,cmdexit"},
-    {"orderhelp", "Y6fract3", nullptr, "Y6fract3", "cmdexit"},
-    {"y2fracprint1", nullptr, nullptr, "", "Command1"},
-    {"y5fracprint4", nullptr, nullptr, "", "Command1"},
-    {"y6fracprint3", nullptr, nullptr, "", "Command1"},
+    {"Titlefrm", nullptr, "Titlefrm", "Command1,Command2"},
+    {"Form1", nullptr, "Year", "Command1,Check2"},
+    {"Year", nullptr, "Titlefrm", "Command5,Command2,Command3,Command6,Command1,Check1,Command4"},
+    {"Grey", nullptr, nullptr, ""},
+    {"Reward", "Y6fract3", "Y6fract3", ""},
+    {"Welldone", "Y6fract3", "Y6fract3", "Text1,Command2,cmdexit"},
+    {"orderhelp", "Y6fract3", "Y6fract3", "cmdexit"},
+    {"y2fracprint1", nullptr, "", "Command1"},
+    {"y5fracprint4", nullptr, "", "Command1"},
+    {"y6fracprint3", nullptr, "", "Command1"},
 };
 
 // A screen not in the table is a menu or an activity, reached directly.
@@ -156,9 +154,9 @@ private slots:
     {
         QFETCH(QString, screen);
         QFETCH(bool, started);
-        Screen s;
-        Form* form = open(screen, started, &s);
+        Form* form = open(screen, started);
         QVERIFY(form);
+        const Screen s = opened;
         const QStringList round = tabRound(form);
 
         // Every shown control that takes Tab comes once in the round.
@@ -196,9 +194,37 @@ private slots:
         const QStringList before = TestSupport::visibleForms();
         QTest::keyPress(form->focusWidget() ? form->focusWidget() : form, Qt::Key_Escape); // the screen may go before the key is up
         TestSupport::flushUnloads();
-        const QStringList after = s.afterEscape ? QString::fromLatin1(s.afterEscape).split(QLatin1Char(','), Qt::SkipEmptyParts) : before;
-        QCOMPARE(TestSupport::visibleForms(), after);
+        QCOMPARE(TestSupport::visibleForms(), s.afterEscape ? screens(s.afterEscape) : before);
         QVERIFY(!Forms::programEnded());
+    }
+
+    // The close box leads where the screen's own way back leads; only the title's ends the program, as its Exit does.
+    void closeBoxIsTheWayBack_data()
+    {
+        QTest::addColumn<QString>("screen");
+        QTest::addColumn<bool>("firstRun"); // no settings files yet
+        QTest::addColumn<QString>("after");
+        QTest::newRow("title ends the program") << "Titlefrm" << false << "";
+        QTest::newRow("title on a first run stays") << "Titlefrm" << true << "Titlefrm";
+        for (const char* screen : {"Form1", "Year", "y2Intro", "y5Intro2", "orderhelp", "Welldone", "Reward", "y5fracprint4"})
+            QTest::newRow(screen) << screen << false << screenFor(screen, keep).afterEscape;
+    }
+    void closeBoxIsTheWayBack()
+    {
+        QFETCH(QString, screen);
+        QFETCH(bool, firstRun);
+        QFETCH(QString, after);
+        Form* form = open(screen, false, firstRun);
+        QVERIFY(form && form->isVisible());
+        TestSupport::pressCloseBox(form);
+        TestSupport::flushUnloads();
+        QCOMPARE(TestSupport::visibleForms(), screens(after));
+        QCOMPARE(Forms::programEnded(), screen == QLatin1String("Titlefrm") && !firstRun);
+        // A close the program makes itself is no press of the close box.
+        if (Form* still = Forms::find(screens(after).value(0))) {
+            still->close();
+            QCOMPARE(TestSupport::visibleForms(), screens(after));
+        }
     }
 
     void returnAndSpacePress_data()
@@ -294,23 +320,19 @@ private slots:
     }
 
 private:
-    Form* open(const QString& name, bool started, Screen* out = nullptr)
+    static QStringList screens(const QString& list) { return list.split(QLatin1Char(','), Qt::SkipEmptyParts); }
+
+    // Shows the screen (over the one it stands on) as a child in Year 6 meets it.
+    Form* open(const QString& name, bool started, bool firstRun = false)
     {
-        const Screen s = screenFor(name, keep);
-        if (out)
-            *out = s;
+        opened = screenFor(name, keep);
         world.fresh();
-        TestSupport::writeBytes(world.settingsFile(QStringLiteral("primary.inf")), "0\r\n");
-        TestSupport::writeBytes(world.settingsFile(QStringLiteral("sound.inf")), "0\r\n");
-        Module1::version = Module1::soundsetting = QStringLiteral("0");
-        Module1::yearlabel = QStringLiteral("Year 6");
-        Module1::streak = 20;
-        if (s.under)
-            Forms::show(QString::fromLatin1(s.under));
-        if (s.via)
-            Forms::find(QString::fromLatin1(s.under))->findChild<QAbstractButton*>(QString::fromLatin1(s.via))->click();
-        else
-            Forms::show(name);
+        if (!firstRun)
+            world.writeSettings();
+        world.arrive(QStringLiteral("Year 6"), 20);
+        if (opened.under)
+            Forms::show(QString::fromLatin1(opened.under));
+        Forms::show(name);
         TestSupport::flushUnloads();
         Form* form = Forms::find(name);
         if (form) {
@@ -340,6 +362,7 @@ private:
     }
 
     TestSupport::World world;
+    Screen opened;
     QByteArray keep;
 };
 

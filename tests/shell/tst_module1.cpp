@@ -82,7 +82,7 @@ private slots:
         QVERIFY(!picset.isEmpty());
         QSet<QString> sets, y3sets;
         int freshInChallenge = 0;
-        for (int i = 0; i < 3000; ++i) {
+        for (int i = 0; i < 900; ++i) {
             const QString last = picset;
             const int lastTop = plain.Image2->y();
             challenge = i % 3;
@@ -101,7 +101,7 @@ private slots:
         }
         QVERIFY(freshInChallenge > 0); // a new Challenge draws afresh
         challenge = 0;
-        for (int i = 0; i < 1000; ++i) {
+        for (int i = 0; i < 300; ++i) {
             pickpicture(y3);
             y3sets.insert(picset);
         }

@@ -1,5 +1,4 @@
-// Every button of the menus and of the activity screens, before and after
-// Start, is on top at its own centre, so a pointer's click reaches it.
+// Every button of the menus and activities, before and after Start, is on top at its centre, so a click reaches it.
 #include "activities/ordering/boardlabels.h"
 #include "activities/ordering/y6fract3.h"
 #include "runtime/form.h"
@@ -69,9 +68,7 @@ private:
     Form* prepare(const QString& screen, bool started)
     {
         world.fresh();
-        Module1::version = Module1::soundsetting = QStringLiteral("0");
-        Module1::yearlabel = QStringLiteral("Year 6");
-        Module1::streak = 10;
+        world.arrive(QStringLiteral("Year 6"));
         Form* form = Forms::show(screen);
         if (started) {
             clickThroughWindow(form, form->findChild<QAbstractButton*>(QStringLiteral("cmdstart")));
@@ -80,7 +77,6 @@ private:
         }
         return form;
     }
-
     TestSupport::World world;
 };
 

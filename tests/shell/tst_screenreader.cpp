@@ -1,6 +1,4 @@
-// What a screen reader finds: a name for everything it reaches on every screen
-// and in the states a child meets, pictures that say what and where, stacked
-// fractions read in words, and messages spoken as they appear.
+// What a screen reader finds: names for all it reaches, pictures saying what and where, fractions in words, messages spoken.
 #include "activities/halves/picturecell.h"
 #include "activities/halves/y2fractions.h"
 #include "activities/mixed/y5fract4.h"
@@ -8,7 +6,7 @@
 #include "activities/ordering/y6fract3.h"
 #include "rewards/reward.h"
 #include "runtime/spoken.h"
-#include "testsupport.h"
+#include "activitytest.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -48,18 +46,17 @@ void collectUnnamed(QAccessibleInterface* face, const QString& where, QStringLis
 
 QString nameOf(QObject* object) { return QAccessible::queryAccessibleInterface(object)->text(QAccessible::Name); }
 
-template <class Screen> Screen* openActivity(const char* menu, const char* button, bool start = true)
+// The activity opened from its menu, and started unless told.
+template <class Screen> Screen* openActivity(const char* screen, bool start = true)
 {
-    Forms::show(QString::fromLatin1(menu))->findChild<QPushButton*>(QString::fromLatin1(button))->click();
-    TestSupport::flushUnloads();
-    Screen* form = Forms::find<Screen>();
+    Screen* form = ActivityTest::open<Screen>(QString::fromLatin1(screen));
     if (start)
         form->cmdstart->click();
     return form;
 }
 
-Y2fractions* halves() { return openActivity<Y2fractions>("y2Intro", "Command5"); }
-y5fract4* mixedNumbers() { return openActivity<y5fract4>("y5Intro2", "Command1"); }
+Y2fractions* halves() { return openActivity<Y2fractions>("Y2fractions"); }
+y5fract4* mixedNumbers() { return openActivity<y5fract4>("y5fract4"); }
 
 // Chooses as many pictures as the question asks for, and checks.
 void answerRight(Y2fractions* form)
@@ -67,12 +64,6 @@ void answerRight(Y2fractions* form)
     for (int i = 0; i < form->question.target; ++i)
         form->Image1[i]->click();
     form->cmdcheck->click();
-}
-
-void type(QLineEdit* box, const QString& text)
-{
-    QTest::keyClicks(box, text);
-    QTest::keyClick(box, Qt::Key_Return);
 }
 
 } // namespace
@@ -90,9 +81,7 @@ private slots:
     void init()
     {
         world.fresh(3);
-        Module1::version = Module1::soundsetting = QStringLiteral("0");
-        Module1::yearlabel = QStringLiteral("Year 2");
-        Module1::streak = 10;
+        world.arrive();
     }
 
     void everythingShownIsNamed_data()
@@ -111,15 +100,15 @@ private slots:
         QTest::newRow("halves, pictures chosen") << Setup([] { halves()->Image1[0]->click(); });
         QTest::newRow("mixed numbers, one box typed") << Setup([] {
             auto* form = mixedNumbers();
-            type(form->focusWidget() == form->Text1 ? form->Text1 : form->Text3, QStringLiteral("3"));
+            ActivityTest::enter(QStringLiteral("3"), form->focusWidget() == form->Text1 ? form->Text1 : form->Text3);
         });
         QTest::newRow("ordering, one number clicked") << Setup([] {
-            auto* form = openActivity<Y6fract3>("y6Intro", "Command1");
+            auto* form = openActivity<Y6fract3>("Y6fract3");
             form->Label10[0]->setFocus();
             QTest::keyClick(form->Label10[0], Qt::Key_Space);
         });
         QTest::newRow("a Challenge, a wrong answer") << Setup([] {
-            auto* form = openActivity<Y2fractions>("y2Intro", "Command5", false);
+            auto* form = openActivity<Y2fractions>("Y2fractions", false);
             Module1::challenge = 1;
             form->cmdstart->click();
             for (PictureCell* cell : form->Image1)
@@ -232,7 +221,7 @@ private slots:
         const QStringList boxes = QStringList{"whole number", "top number", "bottom number"}.mid(toMixed ? 0 : 1);
         QCOMPARE(inside, boxes);
         // A number typed stands in its box's place, named by the box.
-        type(toMixed ? form->Text1 : form->Text3, QStringLiteral("7"));
+        ActivityTest::enter(QStringLiteral("7"), toMixed ? form->Text1 : form->Text3);
         QCOMPARE(face->child(0)->text(QAccessible::Name), boxes.first() + QStringLiteral(", 7"));
     }
 
@@ -256,9 +245,9 @@ private slots:
         QTest::newRow("Incorrect!") << Message([] {
             y5fract4* form = mixedNumbers();
             const bool toMixed = form->question().direction == MixedQuestion::kToMixed;
-            type(toMixed ? form->Text1 : form->Text3, QStringLiteral("99"));
+            ActivityTest::enter(QStringLiteral("99"), toMixed ? form->Text1 : form->Text3);
             for (QLineEdit* box : toMixed ? QList<QLineEdit*>{form->Text4, form->Text2} : QList<QLineEdit*>{form->Text5})
-                type(box, QStringLiteral("1"));
+                ActivityTest::enter(QStringLiteral("1"), box);
             return form->Label2;
         }) << QStringLiteral("Incorrect! ") << 1;
         QTest::newRow("a mixed-number hint") << Message([] {

@@ -107,8 +107,7 @@ private slots:
         if (!PdfSupport::missingTool().isEmpty())
             QSKIP("poppler-utils is not installed");
         world.fresh();
-        pdfs = std::make_unique<QTemporaryDir>();
-        PrintTarget::setPdfFolder(pdfs->path());
+        pdfs = world.printToPdf();
     }
 
     void cleanup() { PrintTarget::setPdfFolder(QString()); }
@@ -172,7 +171,7 @@ private slots:
             return;
 
         QVERIFY(printGenerated(sheet, yearLabel) && world.messages.isEmpty());
-        const QStringList files = PdfSupport::files(pdfs->path());
+        const QStringList files = PdfSupport::files(pdfs);
         QCOMPARE(files.size(), 1);
         const QList<QStringList> pages = PdfSupport::pages(files[0]);
         QCOMPARE(pages.size(), 2);
@@ -234,10 +233,8 @@ private slots:
         QFETCH(bool, printerWorks);
         Module1::yearlabel = QStringLiteral("Unit 2");
         world.answer = yes ? MsgBox::Answer::Yes : MsgBox::Answer::No;
-        if (!printerWorks) {
-            TestSupport::writeBytes(pdfs->filePath("blocked"), "not a folder");
-            PrintTarget::setPdfFolder(pdfs->filePath("blocked"));
-        }
+        if (!printerWorks)
+            world.printToPdf(true);
         int made = 0;
         QCOMPARE(askAndPrintGenerated([&made] { return ++made, mixedSheet(); }), yes && printerWorks);
         QCOMPARE(made, yes ? 1 : 0);
@@ -247,11 +244,11 @@ private slots:
         QStringList expected{"Do you really want to print? (Yes, No: Unit 2)"};
         if (!printerWorks) {
             expected << "There was a problem printing to your printer.";
-            PrintTarget::setPdfFolder(pdfs->path());
+            PrintTarget::setPdfFolder(pdfs);
             QVERIFY(printGenerated(mixedSheet(), Module1::yearlabel));
         }
         QCOMPARE(told, expected);
-        const QStringList files = PdfSupport::files(pdfs->path());
+        const QStringList files = PdfSupport::files(pdfs);
         QCOMPARE(files.size(), yes ? 1 : 0);
         if (yes)
             QCOMPARE(PdfSupport::pages(files[0]).value(1).value(0), Module1::yearlabel);
@@ -259,7 +256,7 @@ private slots:
 
 private:
     TestSupport::World world;
-    std::unique_ptr<QTemporaryDir> pdfs;
+    QString pdfs;
 };
 
 QTEST_MAIN(TestGeneratedSheet)
